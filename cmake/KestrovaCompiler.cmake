@@ -1,0 +1,32 @@
+# How everything in this project is compiled.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
+
+# An installed program or library finds its neighbours wherever the whole prefix has been moved to.
+set(CMAKE_INSTALL_RPATH "$ORIGIN;$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
+option(KESTROVA_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ON)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(KESTROVA_WARNINGS_AS_ERRORS)
+    add_compile_options(-Werror)
+endif()
+
+add_compile_definitions(
+    QT_DISABLE_DEPRECATED_BEFORE=0x050F00
+    QT_NO_CAST_TO_ASCII
+    QT_NO_FOREACH
+    QT_NO_KEYWORDS)
+
+option(KESTROVA_SANITIZE "Compile with the address, undefined behaviour and leak sanitizers" OFF)
+if(KESTROVA_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

@@ -1,0 +1,78 @@
+#include "core/encryptedDatabase.h"
+
+#include "sqlcipher/readOnlyVfs.h"
+
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QUrl>
+#include <QVariant>
+
+namespace kestrova::Solvane {
+
+namespace {
+
+/// The connection of that name, closed: the one that has it already, since adding it anew would log a
+/// warning.
+QSqlDatabase closedConnection(QString const & name)
+{
+    if (!QSqlDatabase::contains(name))
+        return QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+    QSqlDatabase connection = QSqlDatabase::database(name, false);
+    connection.close();
+    return connection;
+}
+
+/// Every character of the path is encoded, so that none has a meaning in the URI, slashes included.
+QString uriOf(QString const & filePath, char const * vfs)
+{
+    QByteArray const path = QUrl::toPercentEncoding(QFileInfo(filePath).absoluteFilePath());
+    return QLatin1String("file:" + path + "?vfs=" + vfs);
+}
+
+/// Reads page 1 as ordinary statements do: opening alone does not look at what is behind the first 100 bytes.
+bool isReadable(QSqlDatabase const & connection)
+{
+    QSqlQuery query(connection);
+    return query.exec(QStringLiteral("PRAGMA schema_version")) && query.next();
+}
+
+void setUp(QSqlDatabase const & connection)
+{
+    QSqlQuery query(connection);
+    // A large sort would otherwise put decrypted rows into a file.
+    query.exec(QStringLiteral("PRAGMA temp_store = MEMORY"));
+    // Decrypting costs more than reading: each page is decrypted once.
+    if (query.exec(QStringLiteral("PRAGMA page_count")) && query.next())
+        query.exec(QStringLiteral("PRAGMA cache_size = %1").arg(query.value(0).toLongLong()));
+}
+
+bool openReadOnly(QSqlDatabase & connection, QString const & filePath)
+{
+    char const * const vfs = sqlcipher::readOnlyVfs();
+    // SQLite takes an empty name for a new temporary database, and a name only up to its first U+0000.
+    if (!vfs || filePath.isEmpty() || filePath.contains(QChar::Null))
+        return false;
+    connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
+    connection.setDatabaseName(uriOf(filePath, vfs));
+    if (!connection.open() || !isReadable(connection))
+        return false;
+    setUp(connection);
+    connection.setDatabaseName(filePath);
+    return true;
+}
+
+} // namespace
+
+bool OpenEncryptedSqliteDatabase(QString const & filePath, QString const & connectionName)
+{
+    {
+        QSqlDatabase connection = closedConnection(connectionName);
+        if (openReadOnly(connection, filePath))
+            return true;
+    } // removeDatabase warns while anybody holds the connection
+    QSqlDatabase::removeDatabase(connectionName);
+    return false;
+}
+
+} // namespace kestrova::Solvane

@@ -1,0 +1,142 @@
+#include "sqlcipher/readOnlyVfs.h"
+
+#include "sqlcipher/readOnlyFile.h"
+
+#include <algorithm>
+#include <new>
+
+namespace kestrova::sqlcipher {
+
+namespace {
+
+constexpr char vfsName[] = "kestrova-readonly";
+
+/// What SQLite hands to the functions below for a main database.
+struct DatabaseHandle : sqlite3_file {
+    ReadOnlyFile * file;
+};
+
+ReadOnlyFile & fileOf(sqlite3_file * handle)
+{
+    return *static_cast<DatabaseHandle *>(handle)->file;
+}
+
+int closeFile(sqlite3_file * handle)
+{
+    delete static_cast<DatabaseHandle *>(handle)->file;
+    return SQLITE_OK;
+}
+
+int readFile(sqlite3_file * handle, void * buffer, int count, sqlite3_int64 offset)
+{
+    return fileOf(handle).read(static_cast<unsigned char *>(buffer), count, offset);
+}
+
+int fileSize(sqlite3_file * handle, sqlite3_int64 * bytes)
+{
+    qint64 result = 0;
+    int const code = fileOf(handle).size(result);
+    *bytes = result;
+    return code;
+}
+
+sqlite3_io_methods databaseMethods()
+{
+    sqlite3_io_methods methods = {};
+    methods.iVersion = 1; // without memory mapping and shared memory: both would bypass the decryption
+    methods.xClose = closeFile;
+    methods.xRead = readFile;
+    methods.xWrite = [](sqlite3_file *, void const *, int, sqlite3_int64) { return SQLITE_READONLY; };
+    methods.xTruncate = [](sqlite3_file *, sqlite3_int64) { return SQLITE_READONLY; };
+    methods.xSync = [](sqlite3_file *, int) { return SQLITE_OK; };
+    methods.xFileSize = fileSize;
+    methods.xLock = [](sqlite3_file *, int) { return SQLITE_OK; };
+    methods.xUnlock = [](sqlite3_file *, int) { return SQLITE_OK; };
+    methods.xCheckReservedLock = [](sqlite3_file *, int * isReserved) {
+        *isReserved = 0;
+        return SQLITE_OK;
+    };
+    methods.xFileControl = [](sqlite3_file *, int, void *) { return SQLITE_NOTFOUND; };
+    methods.xSectorSize = [](sqlite3_file *) { return 0; }; // SQLite's default
+    // Keeps SQLite from looking for journals and locks before each statement, which triples the cost of a
+    // cached one.
+    methods.xDeviceCharacteristics = [](sqlite3_file *) { return SQLITE_IOCAP_IMMUTABLE; };
+    return methods;
+}
+
+sqlite3_vfs & realVfs(sqlite3_vfs * vfs)
+{
+    return *static_cast<sqlite3_vfs *>(vfs->pAppData);
+}
+
+int openDatabase(sqlite3_vfs * vfs, char const * name, sqlite3_file * handle, int flags, int * flagsOut)
+{
+    static sqlite3_io_methods const methods = databaseMethods();
+    handle->pMethods = nullptr;
+    if (!(flags & SQLITE_OPEN_READONLY))
+        return SQLITE_CANTOPEN;
+    try {
+        auto file = std::make_unique<ReadOnlyFile>(realVfs(vfs));
+        if (int const opened = file->open(name, flags); opened != SQLITE_OK)
+            return opened;
+        static_cast<DatabaseHandle *>(handle)->file = file.release();
+    } catch (std::bad_alloc const &) { // must not pass through SQLite's C code
+        return SQLITE_NOMEM;
+    }
+    handle->pMethods = &methods;
+    if (flagsOut)
+        *flagsOut = flags;
+    return SQLITE_OK;
+}
+
+int openFile(sqlite3_vfs * vfs, char const * name, sqlite3_file * handle, int flags, int * flagsOut)
+{
+    if (flags & SQLITE_OPEN_MAIN_DB)
+        return openDatabase(vfs, name, handle, flags, flagsOut);
+    return realVfs(vfs).xOpen(&realVfs(vfs), name, handle, flags, flagsOut);
+}
+
+/// Hands a call to the same function of the real file system.
+template <auto Function, typename Result, typename... Arguments>
+Result forward(sqlite3_vfs * vfs, Arguments... arguments)
+{
+    sqlite3_vfs & real = realVfs(vfs);
+    return (real.*Function)(&real, arguments...);
+}
+
+sqlite3_vfs vfsOn(sqlite3_vfs & real)
+{
+    sqlite3_vfs vfs = {};
+    vfs.iVersion = 1;
+    vfs.szOsFile = std::max(real.szOsFile, static_cast<int>(sizeof(DatabaseHandle)));
+    vfs.mxPathname = real.mxPathname;
+    vfs.zName = vfsName;
+    vfs.pAppData = &real;
+    vfs.xOpen = openFile;
+    vfs.xDelete = forward<&sqlite3_vfs::xDelete>;
+    vfs.xAccess = forward<&sqlite3_vfs::xAccess>;
+    vfs.xFullPathname = forward<&sqlite3_vfs::xFullPathname>;
+    vfs.xDlOpen = forward<&sqlite3_vfs::xDlOpen>;
+    vfs.xDlError = forward<&sqlite3_vfs::xDlError>;
+    vfs.xDlSym = forward<&sqlite3_vfs::xDlSym>;
+    vfs.xDlClose = forward<&sqlite3_vfs::xDlClose>;
+    vfs.xRandomness = forward<&sqlite3_vfs::xRandomness>;
+    vfs.xSleep = forward<&sqlite3_vfs::xSleep>;
+    vfs.xCurrentTime = forward<&sqlite3_vfs::xCurrentTime>;
+    vfs.xGetLastError = forward<&sqlite3_vfs::xGetLastError>;
+    return vfs;
+}
+
+} // namespace
+
+char const * readOnlyVfs()
+{
+    static sqlite3_vfs * const real = sqlite3_vfs_find(nullptr);
+    if (!real)
+        return nullptr;
+    static sqlite3_vfs vfs = vfsOn(*real);
+    static int const registered = sqlite3_vfs_register(&vfs, 0);
+    return registered == SQLITE_OK ? vfsName : nullptr;
+}
+
+} // namespace kestrova::sqlcipher

@@ -1,0 +1,59 @@
+#include "cache/databaseAccess.h"
+
+#include <QVariant>
+
+namespace kestrova::Morvel::Devicelore {
+
+namespace {
+
+CVersionNumber readVersion(QSqlDatabase const & db)
+{
+    CVersionNumber version(0, 0, 0);
+    QSqlQuery rows = queryRows(db, QStringLiteral("SELECT * from Version"));
+    if (rows.next()) {
+        version.setMajor(static_cast<unsigned char>(rows.value(0).toUInt()));
+        version.setMinor(static_cast<unsigned char>(rows.value(1).toUInt()));
+        version.setBugfix(static_cast<unsigned short>(rows.value(2).toUInt()));
+    }
+    return version;
+}
+
+} // namespace
+
+QSqlDatabase openConnection(QString const & connectionName)
+{
+    QSqlDatabase db = QSqlDatabase::database(connectionName, false);
+    if (db.isValid() && !db.isOpen())
+        db.open();
+    return db;
+}
+
+QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement)
+{
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    if (db.isOpen()) // a query on a closed database would be reported by Qt
+        query.exec(statement);
+    return query;
+}
+
+QStringList tableColumns(QSqlDatabase const & db, QString const & table)
+{
+    QStringList columns;
+    QSqlQuery rows = queryRows(db, QStringLiteral("pragma table_info(%1)").arg(table));
+    while (rows.next())
+        columns.append(rows.value(1).toString());
+    return columns;
+}
+
+CDriverDatabaseInfo databaseInfoOf(QString const & connectionName)
+{
+    QSqlDatabase const db = openConnection(connectionName);
+    CDriverDatabaseInfo info;
+    info.setVersionNumber(readVersion(db));
+    info.setFilePath(db.databaseName());
+    info.setName(db.connectionName());
+    return info;
+}
+
+} // namespace kestrova::Morvel::Devicelore

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "cache/driverDatabaseInfo.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QStringList>
+
+namespace kestrova::Morvel::Devicelore {
+
+/// The connection of that name, opened if need be; an invalid one when there is none. Qt would log a
+/// complaint about a connection that cannot be opened; the library does not.
+QSqlDatabase openConnection(QString const & connectionName);
+
+/// The rows of a complete statement, to be walked with next(). A statement that fails has none. Nothing is
+/// logged, also when \a db is closed or invalid.
+QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement);
+
+/// The names of a table's columns in table order; empty when there is no such table.
+QStringList tableColumns(QSqlDatabase const & db, QString const & table);
+
+/// The description of a connection's database, with the first row of its table Version, or 0.0.0 without one.
+CDriverDatabaseInfo databaseInfoOf(QString const & connectionName);
+
+} // namespace kestrova::Morvel::Devicelore

@@ -1,0 +1,118 @@
+#include "cache/driverCache.h"
+
+#include "cache/databaseAccess.h"
+#include "cache/driverCacheGuidItemList.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <new>
+#include <utility>
+
+namespace kestrova::Morvel::Devicelore {
+
+CDriverCache::CDriverCache(QObject * parent)
+    : QObject(parent)
+    , guidItems(new (std::nothrow) CDriverCacheGuidItemList)
+    , hardwareTypes(new (std::nothrow) QVector<QString>)
+{
+    if (!guidItems || !hardwareTypes)
+        throw CMemoryException();
+}
+
+CDriverCache::~CDriverCache()
+{
+    closeDatabases();
+}
+
+int CDriverCache::openDatabases(QDir const & dir)
+{
+    QFileInfoList const files = dir.entryInfoList();
+    if (files.isEmpty())
+        return 0;
+
+    for (QFileInfo const & file : files) {
+        QString const name = file.fileName();
+        if (!OpenEncryptedSqliteDatabase(file.absoluteFilePath(), name)) {
+            closeDatabases();
+            return -1;
+        }
+        connectionNames.append(name);
+        QSqlDatabase const db = QSqlDatabase::database(name, false);
+        connectionHasBoxNumber.insert(
+            name, tableColumns(db, QStringLiteral("Objects")).contains(QStringLiteral("BoxNumber")));
+    }
+    init();
+    return static_cast<int>(files.size());
+}
+
+void CDriverCache::closeDatabases()
+{
+    for (QString const & name : std::as_const(connectionNames)) {
+        QSqlDatabase db = QSqlDatabase::database(name, false);
+        if (db.isOpen())
+            db.close();
+    }
+    for (QString const & name : std::as_const(connectionNames))
+        QSqlDatabase::removeDatabase(name);
+    connectionNames.clear();
+}
+
+void CDriverCache::clear()
+{
+    guidConnections.clear();
+    guidItems->clear();
+    hardwareTypes->clear();
+}
+
+void CDriverCache::init()
+{
+    clear();
+    fillGuidCache();
+    fillHardwaretypeCache();
+}
+
+void CDriverCache::databaseInfos(QList<CDriverDatabaseInfo> & list) const
+{
+    for (QString const & name : connectionNames)
+        list.append(databaseInfoOf(name));
+}
+
+QString CDriverCache::connectionName(CDeviceGuid const & guid)
+{
+    return guidConnections.value(guid);
+}
+
+int CDriverCache::GetIndexOfColumn(QString const & column, QString const & table, QSqlDatabase const & db)
+{
+    return static_cast<int>(tableColumns(db, table).indexOf(column));
+}
+
+unsigned char CDriverCache::guidSupportedLevel() const
+{
+    return guidSupportedLevel_;
+}
+
+void CDriverCache::setGuidSupportedLevel(unsigned char level)
+{
+    if (level == guidSupportedLevel_)
+        return;
+    guidSupportedLevel_ = level;
+    guidItems->setCurrentAccessLevel(CDriverCacheGuidItem::GuidAccess(level));
+    init();
+}
+
+unsigned char CDriverCache::devicePropertyFilterAccessLevel() const
+{
+    return devicePropertyFilterAccessLevel_;
+}
+
+void CDriverCache::setDevicePropertyFilterAccessLevel(unsigned char level)
+{
+    if (level == devicePropertyFilterAccessLevel_)
+        return;
+    devicePropertyFilterAccessLevel_ = level;
+    init();
+}
+
+} // namespace kestrova::Morvel::Devicelore

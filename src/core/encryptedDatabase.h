@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/coreExport.h"
+
+#include <QString>
+
+namespace kestrova::Solvane {
+
+/// Opens an encrypted SQLite file, for reading only, as the Qt SQL connection \a connectionName.
+///
+/// After true, QSqlDatabase::database(connectionName) is an open connection for ordinary queries, and its
+/// databaseName() is \a filePath. A connection that already had the name has been replaced.
+///
+/// After false there is no connection of that name: the file is missing, unreadable, no regular file, empty,
+/// no database, encrypted with another key, damaged in its first page, or cut short. A page damaged further
+/// behind makes the statement that touches it fail.
+///
+/// Key and cipher lie inside this function. Nothing is written: no lock, no journal, no temporary file. The
+/// file must not change while it is open. No message is logged.
+KESTROVA_CORE_EXPORT bool OpenEncryptedSqliteDatabase(QString const & filePath,
+                                                      QString const & connectionName);
+
+} // namespace kestrova::Solvane

@@ -1,0 +1,22 @@
+#include "support/sqlFile.h"
+
+#include <sqlite3.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace kestrova::test {
+
+void makeSqlFile(QString const & path, QString const & sql)
+{
+    sqlite3 * handle = nullptr;
+    QByteArray const statements =
+        "PRAGMA user_version = 1;" + sql.toUtf8(); // SQLite leaves a file without content empty
+    int const opened = sqlite3_open(path.toUtf8().constData(), &handle);
+    std::unique_ptr<sqlite3, decltype(&sqlite3_close)> const database(handle, sqlite3_close);
+    if (opened != SQLITE_OK ||
+        sqlite3_exec(handle, statements.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw std::runtime_error(path.toStdString() + ": " + sqlite3_errmsg(handle));
+}
+
+} // namespace kestrova::test

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace kestrova::test {
+
+/// Makes the plain SQLite file \a path from \a sql, a text of any number of statements; of an empty one, a
+/// database without tables. Throws std::runtime_error with SQLite's own words when a statement fails.
+void makeSqlFile(QString const & path, QString const & sql);
+
+} // namespace kestrova::test

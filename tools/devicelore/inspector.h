@@ -1,0 +1,43 @@
+#pragma once
+
+#include <kestrovaDevicelore.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class QDir;
+
+namespace kestrova::inspector {
+
+/// The tool's cache: a cache that also tells which descriptions there are and where they lie, which an
+/// application need not know.
+class InspectorCache : public Morvel::Devicelore::CDriverCache {
+public:
+    using CDriverCache::connectionName;
+
+    Morvel::Devicelore::CDriverCacheGuidItemList & descriptions() { return *guidItems; }
+};
+
+/// The library with all databases open that the user named.
+class Inspector {
+public:
+    /// Opens the databases beside the tool and then those of the folders. Throws Failure with ExitDatabase
+    /// that names the folder or file, also when there is no database at all.
+    Inspector(QStringList const & databaseFolders, unsigned char accessLevel);
+
+    Morvel::Devicelore::CDevicelore & facade() { return *library; }
+
+    InspectorCache & cache() { return *ownedByLibrary; }
+
+private:
+    void openFolder(QString const & path);
+    void rememberFiles(QDir const & folder);
+
+    InspectorCache * ownedByLibrary;
+    std::unique_ptr<Morvel::Devicelore::CDevicelore> library;
+    QStringList fileNames; ///< of all databases, to refuse two of one name
+};
+
+} // namespace kestrova::inspector

@@ -1,0 +1,56 @@
+#include "command.h"
+#include "commandLine.h"
+#include "common/program.h"
+#include "inspector.h"
+
+using namespace kestrova::inspector;
+
+namespace {
+
+int run(QStringList const & arguments)
+{
+    CommandLine const line = readCommandLine(arguments);
+    if (line.text) {
+        print(stdout, *line.text);
+        return ExitOk;
+    }
+    Inspector inspector(line.databaseFolders, line.accessLevel);
+    return printAnswer(line.command->run(inspector, line.arguments), line.json);
+}
+
+} // namespace
+
+std::vector<Command> const & kestrova::inspector::commands()
+{
+    static std::vector<Command> const all{
+        {"databases",
+         {},
+         "the open databases, with their versions",
+         "Lists the open databases in the order in which they are asked, and the speaker DSP database behind "
+         "them.\n",
+         databasesAnswer},
+        {"devices",
+         {},
+         "all descriptions of devices",
+         "Lists every description: its GUID, model, version, access level and database. A description above "
+         "the access\n"
+         "level is marked as hidden. A model is known by its description of version 0; where that is missing "
+         "or hidden,\n"
+         "the model reads \"-\".\n",
+         devicesAnswer},
+        {"device",
+         {QStringLiteral("GUID|MODEL")},
+         "which description stands for a device, and why",
+         "Tells which description stands for the GUID (eight hexadecimal digits), or which is the newest of "
+         "the model:\n"
+         "the one asked for (exact), else the newest that the access level lets through (newest visible), or "
+         "none.\n",
+         deviceAnswer},
+    };
+    return all;
+}
+
+int main(int argc, char ** argv)
+{
+    return runTool("devicelore", argc, argv, run);
+}
