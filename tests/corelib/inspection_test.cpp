@@ -109,6 +109,8 @@ INSTANTIATE_TEST_SUITE_P(
                       notADatabase("Text", QByteArray("no database\n").repeated(1000)),
                       notADatabase("Zeros", QByteArray(8192, '\0')),
                       notADatabase("MagicBytesAlone", QByteArray("SQLite format 3\0", 16)),
+                      notADatabase("PageSizeThatIsNoPowerOfTwo",
+                                   QByteArray("SQLite format 3\0\x0F\xFF", 18) + QByteArray(8174, '\0')),
                       notADatabase("MagicBytesAndZeros",
                                    QByteArray("SQLite format 3\0", 16) + QByteArray(8176, '\0'))),
     [](auto const & row) { return row.param.name; });

@@ -38,17 +38,19 @@ TEST_P(RoundOnStep, GivesTheExpectedDouble)
 }
 
 INSTANTIATE_TEST_SUITE_P(Nearest, RoundOnStep,
-                         ::testing::Values(Rounding{"Down", 0.32, 0.1, 0.3},         //
-                                           Rounding{"Up", 0.38, 0.1, 0.4},           //
-                                           Rounding{"NegativeUp", -0.32, 0.1, -0.3}, //
-                                           Rounding{"NegativeDown", -0.38, 0.1, -0.4},
+                         ::testing::Values(Rounding{"Down", 0.32, 0.1, 0.3},           //
+                                           Rounding{"Up", 0.38, 0.1, 0.4},             //
+                                           Rounding{"NegativeUp", -0.32, 0.1, -0.3},   //
+                                           Rounding{"NegativeDown", -0.38, 0.1, -0.4}, //
                                            Rounding{"WholeStep", 7.4, 1.0, 7.0},       //
                                            Rounding{"LargeStep", 249.0, 100.0, 200.0}, //
                                            Rounding{"StepOfSeveralUnits", 13.0, 6.2, 12.4},
                                            Rounding{"StepWithoutAShortLiteral", 0.7, 1.0 / 3.0, 2.0 / 3.0},
                                            Rounding{"SmallStep", 1.23456e-10, 1e-12, 1.23e-10},
                                            Rounding{"SmallNegativeToPlainZero", -0.04, 0.1, 0.0},
-                                           Rounding{"JustOutsideTheTolerance", 0.3000000002, 0.1, 0.3}),
+                                           Rounding{"JustOutsideTheTolerance", 0.3000000002, 0.1, 0.3},
+                                           Rounding{"ThreeUlpAboveALargeValue", 12345678.900000006, 0.1,
+                                                    12345678.9}),
                          [](auto const & row) { return row.param.name; });
 
 INSTANTIATE_TEST_SUITE_P(HalvesAwayFromZero, RoundOnStep,
@@ -69,6 +71,7 @@ INSTANTIATE_TEST_SUITE_P(
                       Rounding{"OneUlpAbove", 0.30000000000000004, 0.1, 0.30000000000000004},
                       Rounding{"OneUlpBelow", 0.29999999999999993, 0.1, 0.29999999999999993},
                       Rounding{"WithinAMilliardthOfTheStep", 0.30000000005, 0.1, 0.30000000005},
+                      Rounding{"TwoUlpAboveWhereThatIsMore", 12345678.900000004, 0.1, 12345678.900000004},
                       Rounding{"Zero", 0.0, 0.1, 0.0}, //
                       Rounding{"NegativeZero", -0.0, 0.1, -0.0},
                       Rounding{"SmallestDouble", 5e-324, 0.1, 5e-324},
