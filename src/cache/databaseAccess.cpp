@@ -37,6 +37,15 @@ QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement)
     return query;
 }
 
+QSqlQuery preparedQuery(QSqlDatabase const & db, QString const & statement)
+{
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    if (db.isOpen())
+        query.prepare(statement);
+    return query;
+}
+
 QStringList tableColumns(QSqlDatabase const & db, QString const & table)
 {
     QStringList columns;

@@ -17,6 +17,10 @@ QSqlDatabase openConnection(QString const & connectionName);
 /// logged, also when \a db is closed or invalid.
 QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement);
 
+/// A statement with places for values, to be bound and executed. Nothing is logged, and without success it
+/// has no rows, also when \a db is closed or invalid.
+QSqlQuery preparedQuery(QSqlDatabase const & db, QString const & statement);
+
 /// The names of a table's columns in table order; empty when there is no such table.
 QStringList tableColumns(QSqlDatabase const & db, QString const & table);
 

@@ -1,7 +1,12 @@
 #include "cache/driverCache.h"
 
 #include "cache/databaseAccess.h"
+#include "cache/driverCacheFilterItemList.h"
 #include "cache/driverCacheGuidItemList.h"
+#include "cache/driverCacheObjectClassItemList.h"
+#include "cache/driverCacheObjectItemList.h"
+#include "cache/driverCacheSpeakerItemList.h"
+#include "cache/objectQueries.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,10 +18,14 @@ namespace kestrova::Morvel::Devicelore {
 
 CDriverCache::CDriverCache(QObject * parent)
     : QObject(parent)
+    , objectItems(new (std::nothrow) CDriverCacheObjectItemList)
     , guidItems(new (std::nothrow) CDriverCacheGuidItemList)
     , hardwareTypes(new (std::nothrow) QVector<QString>)
+    , filterItems(new (std::nothrow) CDriverCacheFilterItemList)
+    , speakerItems(new (std::nothrow) CDriverCacheSpeakerItemList)
+    , objectClassItems(new (std::nothrow) CDriverCacheObjectClassItemList)
 {
-    if (!guidItems || !hardwareTypes)
+    if (!objectItems || !guidItems || !hardwareTypes || !filterItems || !speakerItems || !objectClassItems)
         throw CMemoryException();
 }
 
@@ -48,6 +57,7 @@ int CDriverCache::openDatabases(QDir const & dir)
 
 void CDriverCache::closeDatabases()
 {
+    objectQueries.clear(); // statements do not outlive their connection
     for (QString const & name : std::as_const(connectionNames)) {
         QSqlDatabase db = QSqlDatabase::database(name, false);
         if (db.isOpen())
@@ -61,8 +71,12 @@ void CDriverCache::closeDatabases()
 void CDriverCache::clear()
 {
     guidConnections.clear();
+    objectItems->clear();
     guidItems->clear();
     hardwareTypes->clear();
+    filterItems->clear();
+    objectClassItems->clear();
+    speakerItems->clear();
 }
 
 void CDriverCache::init()
@@ -70,6 +84,8 @@ void CDriverCache::init()
     clear();
     fillGuidCache();
     fillHardwaretypeCache();
+    fillSpeakerList();
+    fillOcaCLassIdList();
 }
 
 void CDriverCache::databaseInfos(QList<CDriverDatabaseInfo> & list) const

@@ -2,12 +2,18 @@
 
 #include "cache/driverCacheGuidItem.h"
 #include "cache/driverDatabaseInfo.h"
+#include "cache/getItemReturnValue.h"
+#include "cache/speakerType.h"
 #include "records/coreNames.h"
 #include "records/deviceloreExport.h"
+#include "records/objectDefMask.h"
+#include "records/outputMode.h"
+#include "records/speakerDef.h"
 
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QPair>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -16,10 +22,23 @@
 
 class QDir;
 class QSqlDatabase;
+class QSqlQuery;
 
 namespace kestrova::Morvel::Devicelore {
 
+class CDeviceChannelInfo;
+class CDriverCacheChannelKeyFilter;
+class CDriverCacheFilterItem;
+class CDriverCacheFilterItemList;
 class CDriverCacheGuidItemList;
+class CDriverCacheKey;
+class CDriverCacheObjectClassItemList;
+class CDriverCacheObjectItem;
+class CDriverCacheObjectItemList;
+class CDriverCacheSpeakerClassItem;
+class CDriverCacheSpeakerItemList;
+class CObjectDef;
+class CObjectQueries;
 
 /// The one store behind every facade: the open description databases and the catalogues that are filled from
 /// them.
@@ -37,6 +56,28 @@ public:
 
     /// Closes the databases and deletes the catalogues, and with them everything that was lent out.
     ~CDriverCache() override;
+
+    // --- Operations that a subclass may replace. Their order is part of the binary interface. ---
+
+    /// The object of a key: from memory, or else from the database of the key's device. GetItemFound, or
+    /// GetItemNotAvailable when there is no such object or the supported level is too low for device or
+    /// object; such an answer stands until the catalogues are cleared. Only with GetItemFound is \a item to
+    /// be used. It is borrowed. The key must not be null.
+    virtual GetItemReturnValue GetDriverObject(CDriverCacheObjectItem *& item, CDriverCacheKey * key);
+
+    /// The name of a speaker's filter; null when there is none. A name that is empty in the database is not
+    /// null.
+    virtual QString filterName(CDeviceGuid const & guid, CDeviceChannelInfo const * channel,
+                               unsigned char filterNumber);
+
+    /// Bounds of the speaker ids. The lower one is 0.
+    virtual unsigned short minSpeakerId() const;
+    virtual unsigned short maxSpeakerId() const;
+
+    /// Appends copies of all definitions whose id has the low byte of \a speakerId, the one read last in
+    /// front. TharnNotFound, with \a definitions untouched, when there is none. The mask has no effect.
+    virtual TharnError speakerDef(unsigned short speakerId, QList<CSpeakerDef> & definitions,
+                                  QFlags<SpeakerDefMask> mask);
 
     // --- The set of databases ---
 
@@ -99,6 +140,43 @@ public:
     QString hardwareTypeString(unsigned char type) const;
     void setHardwareType(unsigned char type, QString const & deviceType);
 
+    // --- Objects ---
+    // The forms build a key, with the channel if it is not null, and ask the virtual form.
+
+    GetItemReturnValue GetDriverObject(CDriverCacheObjectItem *& item, CDeviceGuid const & guid,
+                                       QString const & name, CDeviceChannelInfo * channel);
+    GetItemReturnValue GetDriverObject(CDriverCacheObjectItem *& item, CDeviceGuid const & guid,
+                                       unsigned short number, CDeviceChannelInfo * channel);
+    GetItemReturnValue GetDriverObject(CDriverCacheObjectItem *& item, QString const & guid,
+                                       QString const & name, CDeviceChannelInfo * channel);
+    GetItemReturnValue GetDriverObject(CDriverCacheObjectItem *& item, QString const & guid,
+                                       unsigned short number, CDeviceChannelInfo * channel);
+
+    // --- Filters ---
+
+    QString filterName(QString const & guid, CDeviceChannelInfo const * channel, unsigned char filterNumber);
+    QString filterName(CDriverCacheChannelKeyFilter const & key);
+
+    // --- Speakers; see CDriverCacheSpeakerItemList for the rules ---
+    // What a device supports is read from its database at the first question, also by const operations.
+
+    /// The class of a number, or null. The cache keeps owning it.
+    CDriverCacheSpeakerClassItem * speakerClassItem(unsigned char speakerClass) const;
+
+    bool isSpeakerSupportedByDevice(unsigned short speakerId, CDeviceGuid const & guid) const;
+
+    /// Replaces \a ids by the device's speakers in display order. TharnNotFound, with \a ids untouched, when
+    /// it has none.
+    TharnError listSpeakersForDevice(CDeviceGuid const & guid, QList<unsigned short> & ids);
+
+    /// Appends the device's speakers with their short display names, in display order.
+    TharnError listSpeakersForDevice(CDeviceGuid const & guid,
+                                     QList<QPair<unsigned short, QString>> & speakers);
+
+    /// Appends those of the device's speakers that fit one of the types and the output mode.
+    TharnError listSpeakersForDevice(CDeviceGuid const & guid, QList<unsigned short> & ids,
+                                     QFlags<SpeakerType> types, OutputMode mode);
+
 protected:
     /// Empties all catalogues and reads the start catalogues again.
     void init();
@@ -108,17 +186,61 @@ protected:
 
     void fillGuidCache();
     void fillHardwaretypeCache();
+    void fillSpeakerList();
+    void fillGuidSpeakerList(CDeviceGuid const & guid);
+    void fillOcaCLassIdList();
 
-    /// True when the catalogue has taken the item over.
+    /// These take the item over when they give true, or give nothing.
     bool addGuidItem(CDriverCacheGuidItem * item);
+    void addSpeakerClassItem(CDriverCacheSpeakerClassItem * item);
+    bool addSpeakerItem(CSpeakerDef * speaker);
+
+    /// See CDriverCacheObjectItemList::AddObjectItem() and CDriverCacheFilterItemList::addFilterItem().
+    bool addObjectItem(CDriverCacheKey * key, CDriverCacheObjectItem * item);
+    void addFilterItem(CDriverCacheKey const * key, CDriverCacheFilterItem * item);
+
+    /// Makes an item from the database and adjusts it to the key's speaker. False, with \a item untouched,
+    /// when there is no such object.
+    bool createDriverCacheObjectItem(CDriverCacheObjectItem *& item, CDriverCacheKey * key);
+
+    /// Reads the members of the object's mask from the database that describes that very GUID. TharnFailed
+    /// without an open database, TharnNotFound without a row; \a object stays as it came then.
+    TharnError objectFromDb(QString const & name, QString const & guidString, CObjectDef & object);
+    TharnError objectFromDb(unsigned short number, QString const & guidString, CObjectDef & object);
+
+    /// Takes the members of the mask from the query's row. Columns are found by their exact names in \a
+    /// columns, in the order of the row; one that is missing reads as empty.
+    void takeQuery(QSqlQuery const & query, QFlags<ObjectDefMask> mask, QStringList const & columns,
+                   CObjectDef & object) const;
+
+    QString filterNameFromDatabase(CDriverCacheChannelKeyFilter const & key);
 
     QStringList connectionNames;                 ///< in opening order
     QHash<CDeviceGuid, QString> guidConnections; ///< the connection of the database that supplied a GUID
     QHash<QString, bool> connectionHasBoxNumber; ///< whether a database's Objects have the column BoxNumber
+    std::unique_ptr<CDriverCacheObjectItemList> objectItems;
     std::unique_ptr<CDriverCacheGuidItemList> guidItems;
     std::unique_ptr<QVector<QString>> hardwareTypes; ///< device type string by hardware type number
+    std::unique_ptr<CDriverCacheFilterItemList> filterItems;
+    std::unique_ptr<CDriverCacheSpeakerItemList> speakerItems;
+    std::unique_ptr<CDriverCacheObjectClassItemList> objectClassItems;
     unsigned char devicePropertyFilterAccessLevel_ = 0;
     unsigned char guidSupportedLevel_ = 0;
+
+private:
+    bool isAboveLevel(CDeviceGuid const & guid, CObjectDef const & object) const;
+    TharnError readObject(CDriverCacheKey const & key, CObjectDef & definition);
+    void adjustToSpeaker(CDriverCacheObjectItem & item, CDriverCacheKey const & key,
+                         CDeviceChannelInfo const & channel);
+    void fillSpeakerClasses(QSqlDatabase const & db);
+    void fillSpeakers(QSqlDatabase const & db);
+
+    template <typename FindRow>
+    TharnError objectFromRow(QString const & guidString, CObjectDef & object, FindRow findRow);
+    template <typename Ask>
+    TharnError withSpeakersOf(CDeviceGuid const & guid, Ask ask);
+
+    QHash<QString, std::shared_ptr<CObjectQueries>> objectQueries; ///< by connection name
 };
 
 } // namespace kestrova::Morvel::Devicelore

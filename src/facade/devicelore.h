@@ -1,7 +1,9 @@
 #pragma once
 
 #include "cache/driverCache.h"
+#include "records/deviceChannelInfo.h"
 #include "records/deviceloreExport.h"
+#include "records/objectDef.h"
 
 #include <QObject>
 #include <QPointer>
@@ -43,7 +45,73 @@ public:
     /// the start catalogues are read again.
     void setDeviceAccessLevel(unsigned char level);
 
+    // --- Devices ---
+
+    /// The base GUID (version 0) of a device type string; the null GUID when it is unknown.
+    CDeviceGuid guidOnDeviceType(QString const & deviceType) const;
+
+    /// The GUID of the newest description of a device type that the access level lets through; the null GUID
+    /// when there is none.
+    CDeviceGuid latestGuidOnDeviceType(QString const & deviceType) const;
+    CDeviceGuid latestGuidOnDeviceType(DeviceType deviceType) const;
+
+    /// The type of a device; DeviceTypeNone for one that is unknown or above the caller's level.
+    DeviceType deviceTypeOnGuid(CDeviceGuid const & guid) const;
+
+    /// The device type string of a device, such as "Talvo"; null for one that is unknown or above the
+    /// caller's level.
+    QString deviceModelOnGuid(CDeviceGuid const & guid) const;
+
+    /// The device type string of a hardware type number. TharnNotFound, with \a deviceType empty, when there
+    /// is none.
+    TharnError deviceTypeOnHardwaretype(unsigned char hardwareType, QString & deviceType) const;
+
+    /// The same as a device type. TharnNotFound leaves \a deviceType as it is, unlike the form above.
+    TharnError deviceTypeOnHardwaretype(unsigned char hardwareType, DeviceType & deviceType) const;
+
+    // --- Objects ---
+    // The GUID is used as it is: whoever has the GUID of a version that is not described asks
+    // determineDriverGuid() first. A null channel information asks about the device as a whole. A lookup that
+    // fails leaves its target as it was.
+
+    /// Fills those members of \a target that its mask names. TharnNotAvailable when there is no such object
+    /// for this caller, device and channel.
+    ///
+    /// On a speaker channel the minimum of "ChStatus_MsDelay" is 6.2 ms for a speaker in a Wavefold setup,
+    /// whatever the object says.
+    TharnError GetObjectDef(CDeviceGuid const & guid, QString const & name, CObjectDef & target,
+                            CDeviceChannelInfo const * channelInfo) const;
+
+    /// The same by the object's number, whose channel bits are dropped. It gives TharnFailed where the form
+    /// by name gives TharnNotAvailable, and fills the name as well when the minimum is asked for.
+    TharnError GetObjectDef(CDeviceGuid const & guid, unsigned short number, CObjectDef & target,
+                            CDeviceChannelInfo const * channelInfo) const;
+
+    /// The name of an object, by its number with any channel bits; null when there is none.
+    QString objectName(CDeviceGuid const & guid, unsigned short number) const;
+
+    /// Box and object number of an object; 65535 when there is none.
+    unsigned short objectNumber(CDeviceGuid const & guid, QString const & name) const;
+
 protected:
+    /// The item in the cache. Unlike GetObjectDef(), the form by number uses it with its channel bits.
+    GetItemReturnValue GetObjectItem(CDriverCacheObjectItem *& item, CDeviceGuid const & guid,
+                                     QString const & name, CDeviceChannelInfo const * channelInfo) const;
+    GetItemReturnValue GetObjectItem(CDriverCacheObjectItem *& item, CDeviceGuid const & guid,
+                                     unsigned short number, CDeviceChannelInfo const * channelInfo) const;
+    GetItemReturnValue GetObjectItem(CDriverCacheObjectItem *& item, CDriverCacheKey * key) const;
+
+    /// Copies the members that the target's mask names.
+    void FillObjectDef(CObjectDef & target, CDriverCacheObjectItem * item) const;
+
+    /// Whether the channel information is valid and, for a speaker, the id within the cache's bounds. A null
+    /// one is refused here, unlike in the questions about properties. The second argument names the caller
+    /// and is not used.
+    bool CheckChannelInfo(CDeviceChannelInfo const * channelInfo, char const * context) const;
+
+    /// Replaces \a value by 6.2 when the speaker is a Wavefold setup, without comparing. Whether it did.
+    bool CorrectDelayValueForWFSpeaker(unsigned short speakerId, QVariant & value) const;
+
     /// The folder of the speaker DSP database: "DspData" in the application's directory.
     QString GetDspDataDatabasePath() const;
 
@@ -61,6 +129,10 @@ protected:
     CDriverCache * cache = nullptr;
 
 private:
+    bool visibleModel(CDeviceGuid const & guid, QString & model) const;
+    void correctDelayMinimum(QString const & name, CObjectDef & target,
+                             CDeviceChannelInfo const * channelInfo) const;
+
     unsigned char deviceAccessLevel_ = 1;
 };
 

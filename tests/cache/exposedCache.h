@@ -1,7 +1,11 @@
 #pragma once
 
 #include "cache/driverCache.h"
+#include "cache/driverCacheFilterItemList.h"
 #include "cache/driverCacheGuidItemList.h"
+#include "cache/driverCacheObjectClassItemList.h"
+#include "cache/driverCacheObjectItemList.h"
+#include "cache/driverCacheSpeakerItemList.h"
 
 namespace kestrova::test {
 
@@ -9,15 +13,25 @@ namespace kestrova::test {
 class ExposedCache : public Morvel::Devicelore::CDriverCache {
 public:
     using CDriverCache::addGuidItem;
+    using CDriverCache::addObjectItem;
     using CDriverCache::connectionHasBoxNumber;
     using CDriverCache::connectionName;
     using CDriverCache::connectionNames;
+    using CDriverCache::createDriverCacheObjectItem;
     using CDriverCache::fillGuidCache;
+    using CDriverCache::fillGuidSpeakerList;
     using CDriverCache::fillHardwaretypeCache;
+    using CDriverCache::filterItems;
+    using CDriverCache::filterNameFromDatabase;
     using CDriverCache::guidConnections;
     using CDriverCache::guidItems;
     using CDriverCache::hardwareTypes;
     using CDriverCache::init;
+    using CDriverCache::objectClassItems;
+    using CDriverCache::objectFromDb;
+    using CDriverCache::objectItems;
+    using CDriverCache::speakerItems;
+    using CDriverCache::takeQuery;
 };
 
 } // namespace kestrova::test

@@ -1,0 +1,33 @@
+#include "cache/driverCacheObjectClassItem.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace kestrova::Morvel::Devicelore {
+
+CDriverCacheObjectClassItem::CDriverCacheObjectClassItem(unsigned char classId, QString const & ocaClassId,
+                                                         QString const & description)
+    : classId_(classId)
+    , description_(description)
+{
+    QStringList const parts = ocaClassId.split(QLatin1Char('.'));
+    fieldCount_ = static_cast<unsigned char>(std::min<int>(static_cast<int>(parts.size()), capacity));
+    for (unsigned char i = 0; i < fieldCount_; ++i)
+        fields_[i] = parts.at(i).toUShort();
+}
+
+CDriverCacheObjectClassItem::CDriverCacheObjectClassItem(CDriverCacheObjectClassItem const & other) = default;
+
+CDriverCacheObjectClassItem::CDriverCacheObjectClassItem(CDriverCacheObjectClassItem && other) noexcept =
+    default;
+
+CDriverCacheObjectClassItem::~CDriverCacheObjectClassItem() = default;
+
+CDriverCacheObjectClassItem &
+CDriverCacheObjectClassItem::operator=(CDriverCacheObjectClassItem const & other) = default;
+
+CDriverCacheObjectClassItem &
+CDriverCacheObjectClassItem::operator=(CDriverCacheObjectClassItem && other) noexcept = default;
+
+} // namespace kestrova::Morvel::Devicelore

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "records/fieldText.h"
+#include "records/formatSpec.h"
+
+namespace kestrova::Morvel::Devicelore {
+
+/// Prints as printf does, with the width, precision and flags of \a spec and the decimal point of the
+/// process.
+void formatReal(double value, FormatSpec const & spec, FieldText & text);
+
+/// Prints an integer that carries its decimals inside: 1234 with a precision of 2 gives 12.34.
+///
+/// By definition this is formatReal() of the value divided by 1, 10, ... 10000000, picked by the low three
+/// bits of the precision. So with a precision of 8 the divisor is 1 again, and there are eight decimals
+/// nevertheless.
+void formatScaledInteger(qint64 value, FormatSpec const & spec, FieldText & text);
+
+} // namespace kestrova::Morvel::Devicelore
