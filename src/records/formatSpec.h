@@ -21,7 +21,7 @@ struct FormatSpec {
 
 /// Parses a format that starts with "%" and returns where its conversion character stands.
 ///
-/// A text that starts otherwise is returned as it is, with \a spec cleared but for its size. A format that
+/// A text that starts otherwise is returned as it is, with the result cleared but for its size. A format that
 /// ends before its conversion, and a null pointer, give an empty text. Numbers too large for 32 bits count as
 /// the largest.
 char const * parseFormatSpec(char const * format, FormatSpec & spec);

@@ -201,7 +201,7 @@ ConvertResult parseParameter(char const * text, char const * format, QVariant & 
     WorkText work(text);
     FormatSpec spec;
     char const * const conversion = parseFormatSpec(std::strchr(format, '%'), spec);
-    switch (*conversion) { // as it stands in the format: there is no D and no U in the spec
+    switch (*conversion) { // as it stands in the format: once parsed there is no D and no U
     case 'D':
     case 'U':
     case 'X':

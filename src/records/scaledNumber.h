@@ -5,7 +5,7 @@
 
 namespace kestrova::Morvel::Devicelore {
 
-/// Prints as printf does, with the width, precision and flags of \a spec and the decimal point of the
+/// Prints as printf does, with the width, precision and flags of the format and the decimal point of the
 /// process.
 void formatReal(double value, FormatSpec const & spec, FieldText & text);
 
