@@ -1,44 +1,18 @@
-#include "cache/driverCache.h"
+#include "floorReporter.h"
+#include "world.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QDir>
 #include <QHash>
 
 #include <sqlite3.h>
 
-#include <stdexcept>
+#include <optional>
 
 using namespace kestrova::Morvel::Devicelore;
+using namespace kestrova::bench;
 
 namespace {
-
-QDir folderOf(char const * path, char const * pattern)
-{
-    QDir dir(QString::fromUtf8(path));
-    dir.setNameFilters({QString::fromUtf8(pattern)});
-    dir.setFilter(QDir::Files | QDir::Readable);
-    return dir;
-}
-
-/// The sample world, open once for all benchmarks that ask it. Never destroyed: Qt's connections would be
-/// gone before.
-CDriverCache & samples()
-{
-    static CDriverCache & cache = *new CDriverCache;
-    static int const opened = cache.openDatabases(folderOf(KESTROVA_SAMPLES, "*.db3"));
-    if (opened < 3)
-        throw std::runtime_error("the sample databases do not open");
-    return cache;
-}
-
-CDeviceGuid guidOf(char const * model)
-{
-    CDeviceGuid guid;
-    if (!samples().guidOnDeviceType(QString::fromUtf8(model), guid))
-        throw std::runtime_error("the sample world has lost a model");
-    return guid;
-}
 
 void mapAKnownGuid(benchmark::State & state)
 {
@@ -74,20 +48,33 @@ void modelOfAGuid(benchmark::State & state)
 
 void startUp(benchmark::State & state)
 {
-    QDir const dir = folderOf(KESTROVA_SAMPLES, "*.db3");
+    QDir const dir = folderOf(largeWorld(), QStringLiteral("*.db3"));
+    state.counters[goalCounter] = 3.0;
+    std::optional<CDriverCache> cache;
     for (auto _ : state) {
-        CDriverCache cache;
-        if (cache.openDatabases(dir) < 3)
-            state.SkipWithError("the sample databases do not open");
+        cache.emplace();
+        if (cache->openDatabases(dir) != 8 || cache->deviceModels().size() != 239)
+            state.SkipWithError("the large world does not open");
+        state.PauseTiming();
+        cache.reset();
+        state.ResumeTiming();
     }
 }
 
+/// Reads what \a sql selects, each value as what it is.
 void readAllRows(sqlite3 * database, char const * sql)
 {
     sqlite3_stmt * statement = nullptr;
     if (sqlite3_prepare_v2(database, sql, -1, &statement, nullptr) == SQLITE_OK) {
-        while (sqlite3_step(statement) == SQLITE_ROW)
-            benchmark::DoNotOptimize(sqlite3_column_text(statement, 0));
+        int const columns = sqlite3_column_count(statement);
+        while (sqlite3_step(statement) == SQLITE_ROW) {
+            for (int column = 0; column < columns; ++column) {
+                if (sqlite3_column_type(statement, column) == SQLITE_TEXT)
+                    benchmark::DoNotOptimize(sqlite3_column_text(statement, column));
+                else
+                    benchmark::DoNotOptimize(sqlite3_column_int(statement, column));
+            }
+        }
     }
     sqlite3_finalize(statement);
 }
@@ -95,15 +82,18 @@ void readAllRows(sqlite3 * database, char const * sql)
 /// The same rows of the same databases, not encrypted, through the plain C interface.
 void startUpByThePlainInterface(benchmark::State & state)
 {
-    QFileInfoList const files = folderOf(KESTROVA_PLAIN_SAMPLES, "*.plain").entryInfoList();
-    if (files.size() < 3)
-        state.SkipWithError("there are no plain samples");
+    QFileInfoList const files = folderOf(largeWorld(), QStringLiteral("*.plain")).entryInfoList();
     for (auto _ : state) {
         for (QFileInfo const & file : files) {
             sqlite3 * database = nullptr;
             sqlite3_open_v2(file.filePath().toUtf8().constData(), &database, SQLITE_OPEN_READONLY, nullptr);
-            readAllRows(database, "SELECT GUID,DeviceType,Version,Access FROM Guids WHERE GUID LIKE'C7%'");
+            readAllRows(database,
+                        "SELECT GUID,DeviceType,Version,Access,OnoType FROM Guids WHERE GUID LIKE'C7%'");
             readAllRows(database, "SELECT Type,DeviceType FROM Hardwaretypes");
+            readAllRows(database, "SELECT Class,Name,Type,Ways,WayNames FROM SpeakerClasses");
+            readAllRows(database, "SELECT SpeakerId,Name,Class,Rib,DisplayNameShort,SortOrder,"
+                                  "CablefitMaxCount,WfActive FROM Speakers");
+            readAllRows(database, "SELECT Id,OcaClassId,Description FROM ObjectClasses");
             sqlite3_close(database);
         }
     }
@@ -115,7 +105,7 @@ BENCHMARK(mapAnUnknownVersion)->Name("determineDriverGuid, newest visible");
 BENCHMARK(oneHashProbe)->Name("determineDriverGuid, newest visible/floor");
 BENCHMARK(modelOfAGuid)->Name("deviceTypeOnGuid");
 BENCHMARK(oneHashProbe)->Name("deviceTypeOnGuid/floor");
-BENCHMARK(startUp)->Name("start-up, sample world");
-BENCHMARK(startUpByThePlainInterface)->Name("start-up, sample world/floor");
+BENCHMARK(startUp)->Name("start-up, 8 databases, 10,000 devices");
+BENCHMARK(startUpByThePlainInterface)->Name("start-up, 8 databases, 10,000 devices/floor");
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "floorReporter.h"
 #include "records/objectDef.h"
 
 #include <benchmark/benchmark.h>
@@ -20,15 +21,20 @@ struct Printing {
     char const * bytes; // hexadecimal, lowest first
     char const * text;
     void (*floor)(char * buffer, std::size_t size);
+    double goal = 0.0; // none
 };
+
+constexpr double integerGoal = 1.0 / 3.0; // where the number is exact in a double
 
 Printing const printings[] = {
     {"d", "%d", "D2 04", " 1234",
-     [](char * buffer, std::size_t size) { std::snprintf(buffer, size, "%*.*f", 5, 0, 1234.0); }},
+     [](char * buffer, std::size_t size) { std::snprintf(buffer, size, "%*.*f", 5, 0, 1234.0); },
+     integerGoal},
     {"d, two decimals", "%6.2d", "D2 04", " 12.34",
-     [](char * buffer, std::size_t size) { std::snprintf(buffer, size, "%*.*f", 6, 2, 12.34); }},
+     [](char * buffer, std::size_t size) { std::snprintf(buffer, size, "%*.*f", 6, 2, 12.34); }, integerGoal},
     {"u, eight bytes", "%I64u", "15 CD 5B 07 00 00 00 00", "           123456789",
-     [](char * buffer, std::size_t size) { std::snprintf(buffer, size, "%*.*f", 20, 0, 123456789.0); }},
+     [](char * buffer, std::size_t size) { std::snprintf(buffer, size, "%*.*f", 20, 0, 123456789.0); },
+     integerGoal},
     {"u, beyond 2^52", "%I64u", "FF FF FF FF FF FF FF 7F", " 9223372036854775808",
      [](char * buffer, std::size_t size) {
          std::snprintf(buffer, size, "%*.*f", 20, 0, 9223372036854775808.0);
@@ -81,6 +87,8 @@ void print(benchmark::State & state, Printing const & row)
 {
     QString const format = QString::fromLatin1(row.format);
     QByteArray const bytes = QByteArray::fromHex(row.bytes);
+    if (row.goal != 0.0)
+        state.counters[kestrova::bench::goalCounter] = row.goal;
     QString text;
     while (state.KeepRunning()) {
         CObjectDef::paraToStr(format, bytes.constData(), static_cast<int>(bytes.size()), text, nullptr,

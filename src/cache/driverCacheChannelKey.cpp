@@ -1,5 +1,7 @@
 #include "cache/driverCacheChannelKey.h"
 
+#include "records/channelIdText.h"
+
 namespace kestrova::Morvel::Devicelore {
 
 CDriverCacheChannelKey::CDriverCacheChannelKey(CDeviceChannelInfo const * channelInfo)
@@ -19,9 +21,10 @@ CDriverCacheChannelKey & CDriverCacheChannelKey::operator=(CDriverCacheChannelKe
 void CDriverCacheChannelKey::initChannelInfoString()
 {
     channelInfoText.clear();
-    channelInfoText.appendHex(static_cast<quint64>(channelInfo_.GetChannelType()), 3, lowerHexDigits);
-    channelInfoText.append(QLatin1Char('_'));
-    channelInfoText.append(channelInfo_.GetIdString());
+    channelInfoText.appendHex(static_cast<quint64>(channelInfo_.GetChannelType()), 3);
+    channelInfoText.append("_", 1);
+    ChannelIdText const id = channelIdText(channelInfo_);
+    channelInfoText.append(id.characters.data(), id.size);
 }
 
 } // namespace kestrova::Morvel::Devicelore

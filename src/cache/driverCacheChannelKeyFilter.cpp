@@ -1,8 +1,12 @@
 #include "cache/driverCacheChannelKeyFilter.h"
 
-#include <utility>
-
 namespace kestrova::Morvel::Devicelore {
+
+namespace {
+
+constexpr int numberBytes = 1;
+
+} // namespace
 
 CDriverCacheChannelKeyFilter::CDriverCacheChannelKeyFilter()
     : CDriverCacheKey(KeyTypeFilter)
@@ -31,11 +35,11 @@ CDriverCacheChannelKeyFilter::CDriverCacheChannelKeyFilter(QString const & guid,
 CDriverCacheChannelKeyFilter::CDriverCacheChannelKeyFilter(CDriverCacheChannelKeyFilter const & other) =
     default;
 
-// A moved-from key keeps its text and loses its digits only.
+// A moved-from key keeps its text and loses the spelling of its number only.
 CDriverCacheChannelKeyFilter::CDriverCacheChannelKeyFilter(CDriverCacheChannelKeyFilter && other)
     : CDriverCacheChannelKeyFilter(other)
 {
-    other.filterNumberDigits.clear();
+    other.hasNumberString = false;
 }
 
 CDriverCacheChannelKeyFilter::~CDriverCacheChannelKeyFilter() = default;
@@ -47,9 +51,14 @@ CDriverCacheChannelKeyFilter & CDriverCacheChannelKeyFilter::operator=(CDriverCa
 {
     if (this != &other) {
         *this = other;
-        other.filterNumberDigits.clear();
+        other.hasNumberString = false;
     }
     return *this;
+}
+
+QString CDriverCacheChannelKeyFilter::filterNumberString() const
+{
+    return hasNumberString ? hexText<numberBytes>(filterNumber_, lowerHex) : QString();
 }
 
 void CDriverCacheChannelKeyFilter::SetFilterNumber(unsigned char filterNumber)
@@ -57,7 +66,6 @@ void CDriverCacheChannelKeyFilter::SetFilterNumber(unsigned char filterNumber)
     if (filterNumber == filterNumber_)
         return;
     filterNumber_ = filterNumber;
-    initFilternumberString();
     initKeyString();
 }
 
@@ -68,20 +76,18 @@ CDeviceChannelInfo * CDriverCacheChannelKeyFilter::channelInfo() const
 
 void CDriverCacheChannelKeyFilter::initFilternumberString()
 {
-    filterNumberDigits.clear();
-    filterNumberDigits.appendHex(filterNumber_, 2, lowerHexDigits);
+    hasNumberString = true;
 }
 
 void CDriverCacheChannelKeyFilter::initKeyString()
 {
     if (channelInfoText.isEmpty())
         initChannelInfoString();
-    if (filterNumberDigits.isEmpty())
-        initFilternumberString();
-    QChar * place = beginKeyText(channelInfoText.size() + 1 + filterNumberDigits.size());
+    initFilternumberString();
+    QChar * place = beginKeyText(channelInfoText.size() + 1 + 2 * numberBytes);
     place = channelInfoText.copyTo(place);
     *place++ = QLatin1Char('_');
-    filterNumberDigits.copyTo(place);
+    placeHex<numberBytes>(place, filterNumber_, lowerHex);
 }
 
 } // namespace kestrova::Morvel::Devicelore

@@ -27,7 +27,7 @@ public:
     unsigned char filterNumber() const { return filterNumber_; }
 
     /// Two hexadecimal digits in lower case: "0a".
-    QString filterNumberString() const { return filterNumberDigits.toString(); }
+    QString filterNumberString() const;
 
     /// Makes the text anew for another number; does nothing for the present one. The only change that a key
     /// allows.
@@ -40,8 +40,8 @@ protected:
     void initKeyString() override;
 
 private:
-    CKeyTextPart filterNumberDigits;
     unsigned char filterNumber_ = 0;
+    bool hasNumberString = false;
 };
 
 } // namespace kestrova::Morvel::Devicelore

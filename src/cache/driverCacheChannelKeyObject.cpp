@@ -51,12 +51,11 @@ CDeviceChannelInfo * CDriverCacheChannelKeyObject::channelInfo() const
 
 void CDriverCacheChannelKeyObject::initKeyString()
 {
-    if (objectNumberDigits.isEmpty())
-        initObjectnumberString();
-    QChar * place = beginKeyText(channelInfoText.size() + 1 + objectNumberDigits.size());
+    initObjectnumberString();
+    QChar * place = beginKeyText(channelInfoText.size() + 1 + 2 * numberBytes);
     place = channelInfoText.copyTo(place);
     *place++ = QLatin1Char('_');
-    objectNumberDigits.copyTo(place);
+    placeHex<numberBytes>(place, objectNumber(), lowerHex);
 }
 
 } // namespace kestrova::Morvel::Devicelore

@@ -1,6 +1,16 @@
 #include "cache/driverCacheKey.h"
 
+#include "cache/keyTextPart.h"
+
+#include <algorithm>
+
 namespace kestrova::Morvel::Devicelore {
+
+namespace {
+
+constexpr int guidBytes = 4;
+
+} // namespace
 
 CDriverCacheKey::CDriverCacheKey()
     : type_(KeyTypeNone)
@@ -31,29 +41,24 @@ CDriverCacheKey::CDriverCacheKey(KeyType type, QString const & guid)
 
 QString CDriverCacheKey::guidString() const
 {
-    return guidText.isEmpty() ? guidDigits.toString() : guidText;
+    return guidIsSpelled ? hexText<guidBytes>(guid_.value(), upperHex) : guidText;
 }
 
 void CDriverCacheKey::initGuidString()
 {
     guidText.clear();
-    guidDigits.clear();
-    guidDigits.appendHex(guid_.value(), 8, upperHexDigits);
+    guidIsSpelled = true;
 }
 
 QChar * CDriverCacheKey::beginKeyText(int rest)
 {
-    if (guidText.isEmpty() && guidDigits.isEmpty())
+    if (guidText.isEmpty())
         initGuidString();
-    int const guidSize = guidText.isEmpty() ? guidDigits.size() : static_cast<int>(guidText.size());
+    int const guidSize = guidIsSpelled ? 2 * guidBytes : static_cast<int>(guidText.size());
     key_ = QString(guidSize + 1 + rest, Qt::Uninitialized);
     QChar * place = key_.data();
-    if (guidText.isEmpty()) {
-        place = guidDigits.copyTo(place);
-    } else {
-        for (QChar const character : guidText)
-            *place++ = character;
-    }
+    place = guidIsSpelled ? placeHex<guidBytes>(place, guid_.value(), upperHex)
+                          : std::copy(guidText.cbegin(), guidText.cend(), place);
     *place++ = QLatin1Char('_');
     return place;
 }

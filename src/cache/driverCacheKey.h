@@ -1,6 +1,5 @@
 #pragma once
 
-#include "cache/keyTextPart.h"
 #include "records/coreNames.h"
 #include "records/deviceloreExport.h"
 
@@ -58,11 +57,11 @@ protected:
     QChar * beginKeyText(int rest);
 
 private:
-    QString guidText;        ///< as given to the constructor, in upper case
-    CKeyTextPart guidDigits; ///< spelled from the GUID
+    QString guidText; ///< as given to the constructor, in upper case
     QString key_;
     CDeviceGuid guid_;
     KeyType type_;
+    bool guidIsSpelled = false; ///< the text of the GUID is what guid_ spells, and not guidText
 };
 
 } // namespace kestrova::Morvel::Devicelore

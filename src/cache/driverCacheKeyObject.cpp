@@ -1,5 +1,7 @@
 #include "cache/driverCacheKeyObject.h"
 
+#include "cache/keyTextPart.h"
+
 namespace kestrova::Morvel::Devicelore {
 
 CDriverCacheKeyObject::CDriverCacheKeyObject()
@@ -34,11 +36,11 @@ CDriverCacheKeyObject::CDriverCacheKeyObject(WithoutText, QString const & guid, 
 
 CDriverCacheKeyObject::CDriverCacheKeyObject(CDriverCacheKeyObject const & other) = default;
 
-// A moved-from key keeps its text and loses its digits only.
+// A moved-from key keeps its text and loses the spelling of its number only.
 CDriverCacheKeyObject::CDriverCacheKeyObject(CDriverCacheKeyObject && other)
     : CDriverCacheKeyObject(other)
 {
-    other.objectNumberDigits.clear();
+    other.hasNumberString = false;
 }
 
 CDriverCacheKeyObject::~CDriverCacheKeyObject() = default;
@@ -49,9 +51,14 @@ CDriverCacheKeyObject & CDriverCacheKeyObject::operator=(CDriverCacheKeyObject &
 {
     if (this != &other) {
         *this = other;
-        other.objectNumberDigits.clear();
+        other.hasNumberString = false;
     }
     return *this;
+}
+
+QString CDriverCacheKeyObject::objectNumberString() const
+{
+    return hasNumberString ? hexText<numberBytes>(objectNumber_, lowerHex) : QString();
 }
 
 CDeviceChannelInfo * CDriverCacheKeyObject::channelInfo() const
@@ -61,15 +68,13 @@ CDeviceChannelInfo * CDriverCacheKeyObject::channelInfo() const
 
 void CDriverCacheKeyObject::initObjectnumberString()
 {
-    objectNumberDigits.clear();
-    objectNumberDigits.appendHex(objectNumber_, 4, lowerHexDigits);
+    hasNumberString = true;
 }
 
 void CDriverCacheKeyObject::initKeyString()
 {
-    if (objectNumberDigits.isEmpty())
-        initObjectnumberString();
-    objectNumberDigits.copyTo(beginKeyText(objectNumberDigits.size()));
+    initObjectnumberString();
+    placeHex<numberBytes>(beginKeyText(2 * numberBytes), objectNumber_, lowerHex);
 }
 
 } // namespace kestrova::Morvel::Devicelore

@@ -21,7 +21,7 @@ public:
     unsigned short objectNumber() const { return objectNumber_; }
 
     /// Four hexadecimal digits in lower case, unlike those of the GUID: "001a".
-    QString objectNumberString() const { return objectNumberDigits.toString(); }
+    QString objectNumberString() const;
 
     CDeviceChannelInfo * channelInfo() const override;
 
@@ -35,10 +35,11 @@ protected:
     void initObjectnumberString();
     void initKeyString() override;
 
-    CKeyTextPart objectNumberDigits;
+    static constexpr int numberBytes = 2;
 
 private:
     unsigned short objectNumber_ = 0;
+    bool hasNumberString = false;
 };
 
 } // namespace kestrova::Morvel::Devicelore

@@ -1,24 +1,17 @@
 #include "cache/driverCacheObjectItemList.h"
 
-#include "cache/driverCacheChannelKeyName.h"
-#include "cache/driverCacheChannelKeyObject.h"
+#include "cache/objectKey.h"
 
 namespace kestrova::Morvel::Devicelore {
 
 namespace {
 
-QString numberKeyText(CDriverCacheKey const & key, unsigned short number)
+/// The text of the key of the other kind, with the same qualifier.
+template <typename NameOrNumber>
+QString twinKeyText(CDriverCacheKey const & key, NameOrNumber const & nameOrNumber)
 {
-    if (CDeviceChannelInfo const * const channel = key.channelInfo())
-        return CDriverCacheChannelKeyObject(key.guidString(), channel, number).key();
-    return CDriverCacheKeyObject(key.guidString(), number).key();
-}
-
-QString nameKeyText(CDriverCacheKey const & key, QString const & name)
-{
-    if (CDeviceChannelInfo const * const channel = key.channelInfo())
-        return CDriverCacheChannelKeyName(key.guidString(), channel, name).key();
-    return CDriverCacheKeyName(key.guidString(), name).key();
+    return withObjectKey(key.guidString(), nameOrNumber, key.channelInfo(),
+                         [](CDriverCacheKey const * twin) { return twin->key(); });
 }
 
 } // namespace
@@ -52,7 +45,7 @@ bool CDriverCacheObjectItemList::AddObjectItem(CDriverCacheKey * key, CDriverCac
 void CDriverCacheObjectItemList::addByName(CDriverCacheKey const & key, CDriverCacheObjectItem * item)
 {
     itemsByName.insert(key.key(), item);
-    itemsByNumber.insert(numberKeyText(key, item->FullObjectNumber()), item);
+    itemsByNumber.insert(twinKeyText(key, item->FullObjectNumber()), item);
 }
 
 // A number with channel bits stands under its own text only. When the same object is then asked for without
@@ -61,7 +54,7 @@ void CDriverCacheObjectItemList::addByName(CDriverCacheKey const & key, CDriverC
 void CDriverCacheObjectItemList::addByNumber(CDriverCacheKey const & key, CDriverCacheObjectItem * item)
 {
     itemsByNumber.insert(key.key(), item);
-    itemsByName.insert(nameKeyText(key, item->name()), item);
+    itemsByName.insert(twinKeyText(key, item->name()), item);
 }
 
 GetItemReturnValue CDriverCacheObjectItemList::GetDriverObject(CDriverCacheObjectItem *& item,

@@ -2,12 +2,11 @@
 
 #include "cache/databaseAccess.h"
 #include "cache/driverCacheChannelKeyFilter.h"
-#include "cache/driverCacheChannelKeyName.h"
-#include "cache/driverCacheChannelKeyObject.h"
 #include "cache/driverCacheFilterItemList.h"
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheObjectItemList.h"
 #include "cache/driverCacheSpeakerItemList.h"
+#include "cache/objectKey.h"
 
 #include <QMessageLogger>
 
@@ -73,45 +72,29 @@ bool CDriverCache::isAboveLevel(CDeviceGuid const & guid, CObjectDef const & obj
 GetItemReturnValue CDriverCache::GetDriverObject(CDriverCacheObjectItem *& item, CDeviceGuid const & guid,
                                                  QString const & name, CDeviceChannelInfo * channel)
 {
-    if (channel != nullptr) {
-        CDriverCacheChannelKeyName key(guid, channel, name);
-        return GetDriverObject(item, &key);
-    }
-    CDriverCacheKeyName key(guid, name);
-    return GetDriverObject(item, &key);
+    return withObjectKey(guid, name, channel,
+                         [&](CDriverCacheKey * key) { return GetDriverObject(item, key); });
 }
 
 GetItemReturnValue CDriverCache::GetDriverObject(CDriverCacheObjectItem *& item, CDeviceGuid const & guid,
                                                  unsigned short number, CDeviceChannelInfo * channel)
 {
-    if (channel != nullptr) {
-        CDriverCacheChannelKeyObject key(guid, channel, number);
-        return GetDriverObject(item, &key);
-    }
-    CDriverCacheKeyObject key(guid, number);
-    return GetDriverObject(item, &key);
+    return withObjectKey(guid, number, channel,
+                         [&](CDriverCacheKey * key) { return GetDriverObject(item, key); });
 }
 
 GetItemReturnValue CDriverCache::GetDriverObject(CDriverCacheObjectItem *& item, QString const & guid,
                                                  QString const & name, CDeviceChannelInfo * channel)
 {
-    if (channel != nullptr) {
-        CDriverCacheChannelKeyName key(guid, channel, name);
-        return GetDriverObject(item, &key);
-    }
-    CDriverCacheKeyName key(guid, name);
-    return GetDriverObject(item, &key);
+    return withObjectKey(guid, name, channel,
+                         [&](CDriverCacheKey * key) { return GetDriverObject(item, key); });
 }
 
 GetItemReturnValue CDriverCache::GetDriverObject(CDriverCacheObjectItem *& item, QString const & guid,
                                                  unsigned short number, CDeviceChannelInfo * channel)
 {
-    if (channel != nullptr) {
-        CDriverCacheChannelKeyObject key(guid, channel, number);
-        return GetDriverObject(item, &key);
-    }
-    CDriverCacheKeyObject key(guid, number);
-    return GetDriverObject(item, &key);
+    return withObjectKey(guid, number, channel,
+                         [&](CDriverCacheKey * key) { return GetDriverObject(item, key); });
 }
 
 bool CDriverCache::addObjectItem(CDriverCacheKey * key, CDriverCacheObjectItem * item)

@@ -1,8 +1,7 @@
 #include "facade/devicelore.h"
 
-#include "cache/driverCacheChannelKeyName.h"
-#include "cache/driverCacheChannelKeyObject.h"
 #include "cache/driverCacheObjectItem.h"
+#include "cache/objectKey.h"
 #include "records/objectNumber.h"
 
 namespace kestrova::Morvel::Devicelore {
@@ -27,24 +26,16 @@ GetItemReturnValue CDevicelore::GetObjectItem(CDriverCacheObjectItem *& item, CD
                                               QString const & name,
                                               CDeviceChannelInfo const * channelInfo) const
 {
-    if (channelInfo != nullptr) {
-        CDriverCacheChannelKeyName key(guid, channelInfo, name);
-        return GetObjectItem(item, &key);
-    }
-    CDriverCacheKeyName key(guid, name);
-    return GetObjectItem(item, &key);
+    return withObjectKey(guid, name, channelInfo,
+                         [&](CDriverCacheKey * key) { return GetObjectItem(item, key); });
 }
 
 GetItemReturnValue CDevicelore::GetObjectItem(CDriverCacheObjectItem *& item, CDeviceGuid const & guid,
                                               unsigned short number,
                                               CDeviceChannelInfo const * channelInfo) const
 {
-    if (channelInfo != nullptr) {
-        CDriverCacheChannelKeyObject key(guid, channelInfo, number);
-        return GetObjectItem(item, &key);
-    }
-    CDriverCacheKeyObject key(guid, number);
-    return GetObjectItem(item, &key);
+    return withObjectKey(guid, number, channelInfo,
+                         [&](CDriverCacheKey * key) { return GetObjectItem(item, key); });
 }
 
 TharnError CDevicelore::GetObjectDef(CDeviceGuid const & guid, QString const & name, CObjectDef & target,
@@ -91,8 +82,8 @@ TharnError CDevicelore::GetObjectDef(CDeviceGuid const & guid, unsigned short nu
 void CDevicelore::correctDelayMinimum(QString const & name, CObjectDef & target,
                                       CDeviceChannelInfo const * channelInfo) const
 {
-    if (!target.mask().testFlag(ObjectDefMinValue) || name != QLatin1String("ChStatus_MsDelay") ||
-        !isSpeakerChannel(channelInfo))
+    if (!isSpeakerChannel(channelInfo) || !target.mask().testFlag(ObjectDefMinValue) ||
+        name != QLatin1String("ChStatus_MsDelay"))
         return;
     QVariant minimum(target.minValue());
     if (CorrectDelayValueForWFSpeaker(channelInfo->GetSpeakerId(), minimum))

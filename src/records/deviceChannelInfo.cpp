@@ -1,20 +1,8 @@
 #include "records/deviceChannelInfo.h"
 
+#include "records/channelIdText.h"
+
 namespace kestrova::Morvel::Devicelore {
-
-namespace {
-
-// By hand, since this text is part of every key of a speaker channel: QString::arg takes ten times as long.
-QString speakerIdText(unsigned short speakerId)
-{
-    QString text(speakerId > 9999 ? 5 : 4, Qt::Uninitialized);
-    unsigned rest = speakerId;
-    for (auto digit = text.end(); digit != text.begin(); rest /= 10)
-        *--digit = QLatin1Char(static_cast<char>('0' + rest % 10));
-    return text;
-}
-
-} // namespace
 
 CDeviceChannelInfo::CDeviceChannelInfo() = default;
 
@@ -84,16 +72,8 @@ void CDeviceChannelInfo::SetSpeakerId(unsigned short newId)
 
 QString CDeviceChannelInfo::GetIdString() const
 {
-    switch (channelType) {
-    case ChannelTypeSpeaker:
-        return speakerIdText(GetSpeakerId());
-    case ChannelTypeInput:
-        return QStringLiteral("IN");
-    case ChannelTypeOutput:
-        return QStringLiteral("OUT");
-    default:
-        return QString();
-    }
+    ChannelIdText const text = channelIdText(*this);
+    return text.size == 0 ? QString() : QString::fromLatin1(text.characters.data(), text.size);
 }
 
 } // namespace kestrova::Morvel::Devicelore
