@@ -19,6 +19,10 @@ if(KESTROVA_WARNINGS_AS_ERRORS)
     add_compile_options(-Werror)
 endif()
 
+# Messages that name a source file name it from the project's folder on, wherever that lies.
+file(RELATIVE_PATH source_from_build "${CMAKE_BINARY_DIR}" "${PROJECT_SOURCE_DIR}")
+add_compile_options("-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=" "-fmacro-prefix-map=${source_from_build}=")
+
 add_compile_definitions(
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00
     QT_NO_CAST_TO_ASCII

@@ -2,6 +2,7 @@
 
 /// Everything that the library offers. Enough for any application.
 
+#include "cache/devicePropertyFilterItem.h"
 #include "cache/driverCache.h"
 #include "cache/driverCacheChannelKey.h"
 #include "cache/driverCacheChannelKeyFilter.h"
@@ -18,12 +19,15 @@
 #include "cache/driverCacheObjectClassItemList.h"
 #include "cache/driverCacheObjectItem.h"
 #include "cache/driverCacheObjectItemList.h"
+#include "cache/driverCachePropertyFilter.h"
 #include "cache/driverCacheSpeakerClassItem.h"
 #include "cache/driverCacheSpeakerItemList.h"
+#include "cache/driverCacheTextItemList.h"
 #include "cache/driverDatabaseInfo.h"
 #include "cache/getItemReturnValue.h"
 #include "cache/speakerType.h"
 #include "facade/devicelore.h"
+#include "facade/speakerDspData.h"
 #include "records/convertResult.h"
 #include "records/coreNames.h"
 #include "records/deviceChannel.h"

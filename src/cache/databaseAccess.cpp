@@ -32,9 +32,18 @@ QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement)
 {
     QSqlQuery query(db);
     query.setForwardOnly(true);
-    if (db.isOpen()) // a query on a closed database would be reported by Qt
+    if (db.isOpen() &&
+        !statement.isEmpty()) // Qt would complain about a closed database and an empty statement
         query.exec(statement);
     return query;
+}
+
+QStringList firstColumn(QSqlQuery && rows)
+{
+    QStringList texts;
+    while (rows.next())
+        texts.append(rows.value(0).toString());
+    return texts;
 }
 
 QSqlQuery preparedQuery(QSqlDatabase const & db, QString const & statement)

@@ -13,9 +13,12 @@ namespace kestrova::Morvel::Devicelore {
 /// complaint about a connection that cannot be opened; the library does not.
 QSqlDatabase openConnection(QString const & connectionName);
 
-/// The rows of a complete statement, to be walked with next(). A statement that fails has none. Nothing is
-/// logged, also when \a db is closed or invalid.
+/// The rows of a complete statement, to be walked with next(). A statement that fails has none, and leaves
+/// the query inactive. Nothing is logged, also when the statement is empty or \a db closed or invalid.
 QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement);
+
+/// The first value of each row, from the current place on, as text.
+QStringList firstColumn(QSqlQuery && rows);
 
 /// A statement with places for values, to be bound and executed. Nothing is logged, and without success it
 /// has no rows, also when \a db is closed or invalid.

@@ -5,7 +5,9 @@
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheObjectClassItemList.h"
 #include "cache/driverCacheObjectItemList.h"
+#include "cache/driverCachePropertyFilter.h"
 #include "cache/driverCacheSpeakerItemList.h"
+#include "cache/driverCacheTextItemList.h"
 #include "cache/objectQueries.h"
 
 #include <QDir>
@@ -23,9 +25,12 @@ CDriverCache::CDriverCache(QObject * parent)
     , hardwareTypes(new (std::nothrow) QVector<QString>)
     , filterItems(new (std::nothrow) CDriverCacheFilterItemList)
     , speakerItems(new (std::nothrow) CDriverCacheSpeakerItemList)
+    , textItems(new (std::nothrow) CDriverCacheTextItemList)
+    , propertyFilter(new (std::nothrow) CDriverCachePropertyFilter)
     , objectClassItems(new (std::nothrow) CDriverCacheObjectClassItemList)
 {
-    if (!objectItems || !guidItems || !hardwareTypes || !filterItems || !speakerItems || !objectClassItems)
+    if (!objectItems || !guidItems || !hardwareTypes || !filterItems || !speakerItems || !textItems ||
+        !propertyFilter || !objectClassItems)
         throw CMemoryException();
 }
 
@@ -77,6 +82,8 @@ void CDriverCache::clear()
     filterItems->clear();
     objectClassItems->clear();
     speakerItems->clear();
+    textItems->clear();
+    propertyFilter->clear();
 }
 
 void CDriverCache::init()

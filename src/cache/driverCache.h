@@ -36,7 +36,9 @@ class CDriverCacheObjectClassItemList;
 class CDriverCacheObjectItem;
 class CDriverCacheObjectItemList;
 class CDriverCacheSpeakerClassItem;
+class CDriverCachePropertyFilter;
 class CDriverCacheSpeakerItemList;
+class CDriverCacheTextItemList;
 class CObjectDef;
 class CObjectQueries;
 
@@ -177,6 +179,35 @@ public:
     TharnError listSpeakersForDevice(CDeviceGuid const & guid, QList<unsigned short> & ids,
                                      QFlags<SpeakerType> types, OutputMode mode);
 
+    // --- Texts of values; see CDriverCacheTextItemList for the rules ---
+
+    /// The text of a value, from the group of that offset in the database that describes that very GUID; null
+    /// when there is none.
+    QString text(CDeviceGuid const & guid, unsigned int offset, int value);
+
+    /// Replaces \a list by the group's values and texts, in no defined order, and gives their number; -1 when
+    /// there are none.
+    int textList(CDeviceGuid const & guid, unsigned int offset, QList<QPair<int, QString>> & list) const;
+
+    /// The column that texts are taken from. It starts as "TextShort_en_US" and outlives changes of level.
+    QString textLanguage();
+
+    /// Takes any name; with one that is no column of a database, that database has no texts.
+    void setTextLanguage(QString const & language);
+
+    // --- Property filters; see CDriverCachePropertyFilter for the rules ---
+
+    /// The names of the filters up to devicePropertyFilterAccessLevel(), in no defined order.
+    QStringList enumDevicePropertyFilter();
+
+    /// The names of a filter's properties; empty when there is no such filter.
+    QStringList devicePropertyFilter(QString const & name);
+
+    /// What a statement of the caller's own gives in its first column, from all databases and without
+    /// duplicates, in the order of first appearance. It is a complete SQL statement, passed on as it is; a
+    /// database in which it fails adds nothing. The access level plays no part, and nothing is stored.
+    QStringList devicePropertyFilterByExpression(QString const & expression);
+
 protected:
     /// Empties all catalogues and reads the start catalogues again.
     void init();
@@ -223,6 +254,8 @@ protected:
     std::unique_ptr<QVector<QString>> hardwareTypes; ///< device type string by hardware type number
     std::unique_ptr<CDriverCacheFilterItemList> filterItems;
     std::unique_ptr<CDriverCacheSpeakerItemList> speakerItems;
+    std::unique_ptr<CDriverCacheTextItemList> textItems;
+    std::unique_ptr<CDriverCachePropertyFilter> propertyFilter;
     std::unique_ptr<CDriverCacheObjectClassItemList> objectClassItems;
     unsigned char devicePropertyFilterAccessLevel_ = 0;
     unsigned char guidSupportedLevel_ = 0;

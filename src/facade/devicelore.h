@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cache/driverCache.h"
+#include "facade/speakerDspData.h"
 #include "records/deviceChannelInfo.h"
 #include "records/deviceloreExport.h"
 #include "records/objectDef.h"
@@ -92,6 +93,13 @@ public:
 
     /// Box and object number of an object; 65535 when there is none.
     unsigned short objectNumber(CDeviceGuid const & guid, QString const & name) const;
+
+    // --- DSP data of speakers ---
+
+    /// The DSP setup of a speaker on that very GUID, from the speaker DSP database, which is opened for this
+    /// question only. Judge the answer by its IsValid(): without a database it is empty; without a row it is
+    /// empty too, and that is logged as a warning; a row that lacks something is given as it is.
+    SpeakerDspData GetConfigSpeakerData(CDeviceGuid const & guid, unsigned short speakerId);
 
 protected:
     /// The item in the cache. Unlike GetObjectDef(), the form by number uses it with its channel bits.

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QMessageLogger>
+#include <QVariant>
 
 namespace kestrova::Morvel::Devicelore {
 
@@ -11,7 +13,47 @@ namespace {
 
 QString const connectionOfDspData = QStringLiteral("DspDataDatabase");
 
+SpeakerDspData dataOfRow(QSqlQuery const & row, CDeviceGuid const & guid, unsigned short speakerId)
+{
+    SpeakerDspData data;
+    data.SetDeviceType(row.value(0).toString());
+    data.SetSpeakerName(row.value(1).toString());
+    data.SetSpeakerSetupVersion(row.value(2).toString());
+    data.SetSpeakerDspData(row.value(3).toByteArray());
+    data.SetMd5(row.value(4).toString());
+    data.SetSpeakerId(speakerId);
+    data.SetDeviceGuid(guid);
+    return data;
+}
+
+/// All handles of the connection are gone when it returns, as closing the connection demands.
+SpeakerDspData readSpeakerData(CDeviceGuid const & guid, unsigned short speakerId)
+{
+    QString const guidText = guid.toString().toUpper();
+    QSqlQuery rows = preparedQuery(
+        openConnection(connectionOfDspData),
+        QStringLiteral("SELECT DeviceType, SpeakerName, SpeakerVersion, BlobData, BlobDataMD5 FROM "
+                       "SpeakerData WHERE GUID = ? AND SpeakerId = ?"));
+    rows.bindValue(0, guidText, QSql::In);
+    rows.bindValue(1, int(speakerId), QSql::In);
+    rows.exec();
+    if (rows.next())
+        return dataOfRow(rows, guid, speakerId);
+    QMessageLogger().warning("Entry not found for device guid = %s and speaker id = %d",
+                             guidText.toLatin1().constData(), int(speakerId));
+    return SpeakerDspData();
+}
+
 } // namespace
+
+SpeakerDspData CDevicelore::GetConfigSpeakerData(CDeviceGuid const & guid, unsigned short speakerId)
+{
+    if (!OpenDspDataDatabase(connectionOfDspData))
+        return SpeakerDspData();
+    SpeakerDspData data = readSpeakerData(guid, speakerId);
+    CloseDspDataDatabase(connectionOfDspData);
+    return data;
+}
 
 QString CDevicelore::GetDspDataDatabasePath() const
 {

@@ -24,7 +24,7 @@ using namespace kestrova::Morvel::Devicelore;
 
 TEST(CacheWithoutMemory, ThrowsWhicheverCatalogueCannotBeCreated)
 {
-    constexpr int catalogues = 6;
+    constexpr int catalogues = 8;
     for (int succeeding = 0; succeeding < catalogues; ++succeeding) {
         allocationsThatSucceed = succeeding;
         EXPECT_THROW(CDriverCache(), CMemoryException) << "catalogue " << succeeding;

@@ -5,7 +5,9 @@
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheObjectClassItemList.h"
 #include "cache/driverCacheObjectItemList.h"
+#include "cache/driverCachePropertyFilter.h"
 #include "cache/driverCacheSpeakerItemList.h"
+#include "cache/driverCacheTextItemList.h"
 
 namespace kestrova::test {
 
@@ -30,8 +32,10 @@ public:
     using CDriverCache::objectClassItems;
     using CDriverCache::objectFromDb;
     using CDriverCache::objectItems;
+    using CDriverCache::propertyFilter;
     using CDriverCache::speakerItems;
     using CDriverCache::takeQuery;
+    using CDriverCache::textItems;
 };
 
 } // namespace kestrova::test

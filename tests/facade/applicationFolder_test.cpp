@@ -169,3 +169,111 @@ TEST_F(ApplicationFolder, OpensAndClosesTheDspDatabaseUnderTheNameGiven)
     facade.CloseDspDataDatabase(QStringLiteral("mine"));
     EXPECT_EQ(recorder.messages(), QStringList());
 }
+
+// --- The data of a speaker ---
+
+namespace {
+
+char const speakerDataTable[] =
+    "CREATE TABLE SpeakerData (GUID, SpeakerId, DeviceType, SpeakerName, SpeakerVersion, BlobData, "
+    "BlobDataMD5);"
+    "INSERT INTO SpeakerData VALUES ('C70002AB', 12, 'Hesko', 'Varn 3', '2.3', x'0001ff', 'not its MD5'),"
+    "                               ('C70002AB', 12, 'Hesko', 'Second row', '9', x'02', 'm'),"
+    "                               ('c70002ac', 12, 'Hesko', 'Lower case', '1', x'02', 'm'),"
+    "                               ('C70002AB', 0, 'Hesko', 'No speaker', '1', x'02', 'm'),"
+    "                               ('C70002AB', 65535, 'Hesko', 'Last', '1', 'text', 5),"
+    "                               ('C70002AB', 20, '', 'No type', '1', x'02', 'm'),"
+    "                               ('C70002AB', 21, 'Hesko', NULL, '1', x'02', 'm'),"
+    "                               ('C70002AB', 22, 'Hesko', 'No version', '', x'02', 'm'),"
+    "                               ('C70002AB', 23, 'Hesko', 'No data', '1', x'', 'm'),"
+    "                               ('C70002AB', 24, 'Hesko', 'No MD5', '1', x'02', NULL);";
+
+} // namespace
+
+TEST_F(ApplicationFolder, GivesTheDspDataOfASpeakerAsStored)
+{
+    makeDspData(speakerDataTable);
+    CDevicelore facade;
+    MessageRecorder const recorder;
+    SpeakerDspData const data = facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AB), 12);
+    EXPECT_EQ(data.GetDeviceType(), QStringLiteral("Hesko"));
+    EXPECT_EQ(data.GetDeviceGuid(), CDeviceGuid(0xC70002AB));
+    EXPECT_EQ(data.GetSpeakerId(), 12);
+    EXPECT_EQ(data.GetSpeakerName(), QStringLiteral("Varn 3")) << "the first row";
+    EXPECT_EQ(data.GetSpeakerSetupVersion(), QStringLiteral("2.3"));
+    EXPECT_EQ(data.GetSpeakerDspData(), QByteArray::fromHex("0001ff"));
+    EXPECT_EQ(data.GetMd5(), QStringLiteral("not its MD5"));
+    EXPECT_TRUE(data.IsValid()) << "nobody compares the MD5";
+    EXPECT_FALSE(QSqlDatabase::contains(dspConnection));
+    EXPECT_EQ(recorder.messages(), QStringList());
+}
+
+TEST_F(ApplicationFolder, GivesDspDataThatLacksSomethingAsInvalid)
+{
+    makeDspData(speakerDataTable);
+    CDevicelore facade;
+    MessageRecorder const recorder;
+    for (int const number : {0, 20, 21, 22, 23, 24}) {
+        auto const id = static_cast<unsigned short>(number);
+        SpeakerDspData const data = facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AB), id);
+        EXPECT_FALSE(data.IsValid()) << id;
+        EXPECT_EQ(data.GetSpeakerId(), id);
+        EXPECT_EQ(data.GetDeviceGuid(), CDeviceGuid(0xC70002AB)) << id;
+    }
+    SpeakerDspData const last = facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AB), 65535);
+    EXPECT_TRUE(last.IsValid());
+    EXPECT_EQ(last.GetSpeakerDspData(), QByteArray("text"));
+    EXPECT_EQ(last.GetMd5(), QStringLiteral("5"));
+    EXPECT_EQ(recorder.messages(), QStringList());
+}
+
+TEST_F(ApplicationFolder, WarnsOfDspDataThatIsNotThere)
+{
+    makeDspData(speakerDataTable);
+    CDevicelore facade;
+    MessageRecorder const recorder;
+    EXPECT_FALSE(facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AB), 13).IsValid());
+    EXPECT_FALSE(facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AC), 12).IsValid());
+    SpeakerDspData const none = facade.GetConfigSpeakerData(CDeviceGuid(), 65535);
+    EXPECT_EQ(none.GetSpeakerId(), 0) << "an empty record, without the question";
+    EXPECT_EQ(
+        recorder.messages(),
+        (QStringList{
+            QStringLiteral("warning: Entry not found for device guid = C70002AB and speaker id = 13"),
+            QStringLiteral("warning: Entry not found for device guid = C70002AC and speaker id = 12"),
+            QStringLiteral("warning: Entry not found for device guid = 00000000 and speaker id = 65535")}));
+    EXPECT_FALSE(QSqlDatabase::contains(dspConnection));
+}
+
+TEST_F(ApplicationFolder, WarnsWhenADspDatabaseLacksTableOrColumn)
+{
+    QString const warning =
+        QStringLiteral("warning: Entry not found for device guid = C70002AB and speaker id = 12");
+    for (char const * sql :
+         {"CREATE TABLE Other (A);",
+          "CREATE TABLE SpeakerData (GUID, SpeakerId, DeviceType, SpeakerName, SpeakerVersion, BlobData);"
+          "INSERT INTO SpeakerData VALUES ('C70002AB', 12, 'Hesko', 'Varn 3', '2.3', x'00');"}) {
+        removeAll();
+        makeDspData(sql);
+        CDevicelore facade;
+        MessageRecorder const recorder;
+        EXPECT_FALSE(facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AB), 12).IsValid());
+        EXPECT_EQ(recorder.messages(), QStringList{warning}) << sql;
+        EXPECT_FALSE(QSqlDatabase::contains(dspConnection));
+    }
+}
+
+TEST_F(ApplicationFolder, IsSilentAboutDspDataWithoutADatabase)
+{
+    CDevicelore facade;
+    MessageRecorder const recorder;
+    EXPECT_FALSE(facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AB), 12).IsValid());
+    ASSERT_TRUE(QDir(QCoreApplication::applicationDirPath()).mkdir(QStringLiteral("DspData")));
+    QFile damaged(inApplicationFolder("DspData/DspData.sqlite"));
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+    damaged.write("no database");
+    damaged.close();
+    EXPECT_FALSE(facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AB), 12).IsValid());
+    EXPECT_EQ(recorder.messages(), QStringList());
+    EXPECT_FALSE(QSqlDatabase::contains(dspConnection));
+}
