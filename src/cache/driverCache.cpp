@@ -9,6 +9,7 @@
 #include "cache/driverCacheSpeakerItemList.h"
 #include "cache/driverCacheTextItemList.h"
 #include "cache/objectQueries.h"
+#include "deviceinfo/deviceInfoRegistry.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -29,6 +30,7 @@ CDriverCache::CDriverCache(QObject * parent)
     , propertyFilter(new (std::nothrow) CDriverCachePropertyFilter)
     , objectClassItems(new (std::nothrow) CDriverCacheObjectClassItemList)
 {
+    deviceInfos = deviceInfoRegistry();
     if (!objectItems || !guidItems || !hardwareTypes || !filterItems || !speakerItems || !textItems ||
         !propertyFilter || !objectClassItems)
         throw CMemoryException();

@@ -5,6 +5,7 @@
 #include "cache/getItemReturnValue.h"
 #include "cache/speakerType.h"
 #include "records/coreNames.h"
+#include "records/deviceChannel.h"
 #include "records/deviceloreExport.h"
 #include "records/objectDefMask.h"
 #include "records/outputMode.h"
@@ -23,9 +24,11 @@
 class QDir;
 class QSqlDatabase;
 class QSqlQuery;
+class QVariant;
 
 namespace kestrova::Morvel::Devicelore {
 
+class ADeviceInfo;
 class CDeviceChannelInfo;
 class CDriverCacheChannelKeyFilter;
 class CDriverCacheFilterItem;
@@ -35,10 +38,11 @@ class CDriverCacheKey;
 class CDriverCacheObjectClassItemList;
 class CDriverCacheObjectItem;
 class CDriverCacheObjectItemList;
-class CDriverCacheSpeakerClassItem;
 class CDriverCachePropertyFilter;
+class CDriverCacheSpeakerClassItem;
 class CDriverCacheSpeakerItemList;
 class CDriverCacheTextItemList;
+class CDriverPropertyTarget;
 class CObjectDef;
 class CObjectQueries;
 
@@ -208,6 +212,32 @@ public:
     /// database in which it fails adds nothing. The access level plays no part, and nothing is stored.
     QStringList devicePropertyFilterByExpression(QString const & expression);
 
+    // --- Models of devices: what is known of them besides the databases ---
+
+    /// What is known of a model, by its exact device type string; null for an unknown one. It lives as long
+    /// as the process and belongs to nobody.
+    ADeviceInfo * getDeviceInfo(QString const & deviceType) const;
+
+    /// How many channels of a type a device has: 0 when it has none, -1 when its model is not known. Any
+    /// version of a device will do.
+    int DeviceChannelCount(CDeviceGuid const & guid, DeviceChannelType type) const;
+
+    // The following take the GUID as it is: whoever has the GUID of a version that is not described asks
+    // determineDriverGuid() first. For a device whose model is not known the answer is invalid.
+
+    /// The value that a property has out of the box: what is known of the model wins over the database.
+    /// Invalid when there is no such property.
+    QVariant defaultPropertyValue(CDriverPropertyTarget const & target);
+
+    /// The id, an int, of the speaker that the target's channel takes by default in an output mode. Where the
+    /// model has none for the mode, the default value of the target, of whatever type.
+    QVariant defaultSpeakerId(CDriverPropertyTarget const & target, OutputMode mode);
+
+    /// The id, an int, of the target's speaker if its channel can take it in that output mode, else what
+    /// defaultSpeakerId() gives; 0 for a model without speakers to choose. The oldest models take any
+    /// speaker, and without one their channel gets the default value of the target.
+    QVariant validateSpeakerId(CDriverPropertyTarget const & target, OutputMode mode);
+
 protected:
     /// Empties all catalogues and reads the start catalogues again.
     void init();
@@ -249,6 +279,7 @@ protected:
     QStringList connectionNames;                 ///< in opening order
     QHash<CDeviceGuid, QString> guidConnections; ///< the connection of the database that supplied a GUID
     QHash<QString, bool> connectionHasBoxNumber; ///< whether a database's Objects have the column BoxNumber
+    QHash<QString, ADeviceInfo *> deviceInfos;   ///< by device type string; borrowed from the process
     std::unique_ptr<CDriverCacheObjectItemList> objectItems;
     std::unique_ptr<CDriverCacheGuidItemList> guidItems;
     std::unique_ptr<QVector<QString>> hardwareTypes; ///< device type string by hardware type number
@@ -261,6 +292,7 @@ protected:
     unsigned char guidSupportedLevel_ = 0;
 
 private:
+    ADeviceInfo * deviceInfoOnGuid(CDeviceGuid const & guid) const;
     bool isAboveLevel(CDeviceGuid const & guid, CObjectDef const & object) const;
     TharnError readObject(CDriverCacheKey const & key, CObjectDef & definition);
     void adjustToSpeaker(CDriverCacheObjectItem & item, CDriverCacheKey const & key,

@@ -20,6 +20,7 @@ public:
     using CDriverCache::connectionName;
     using CDriverCache::connectionNames;
     using CDriverCache::createDriverCacheObjectItem;
+    using CDriverCache::deviceInfos;
     using CDriverCache::fillGuidCache;
     using CDriverCache::fillGuidSpeakerList;
     using CDriverCache::fillHardwaretypeCache;
