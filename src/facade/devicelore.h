@@ -11,6 +11,9 @@
 
 namespace kestrova::Morvel::Devicelore {
 
+class CDriverPropertyTarget;
+class CSpeakerSetupInfo;
+
 /// What an application holds to ask about devices.
 ///
 /// The order of use: construct one, perhaps set the access level, ask, destroy it. All calls run to their end
@@ -100,6 +103,53 @@ public:
     /// question only. Judge the answer by its IsValid(): without a database it is empty; without a row it is
     /// empty too, and that is logged as a warning; a row that lacks something is given as it is.
     SpeakerDspData GetConfigSpeakerData(CDeviceGuid const & guid, unsigned short speakerId);
+
+    // --- Output modes: which channels drive a speaker together ---
+    // Pure arithmetic on the channels, counted from 1. A number that is no output mode is like -1, no mode.
+
+    /// The first channel of the group that drives one speaker with \a channel; \a channel itself when it
+    /// drives a speaker alone. Mode 8 has no other groups than 1 and 3: any channel above 2 gives 3, any
+    /// other 1.
+    int firstChannel(OutputMode mode, int channel) const;
+
+    /// How many speakers the channels of a device drive. The modes 3 to 7 need four channels: their counts do
+    /// not depend on \a channelCount.
+    static int speakerCount(OutputMode mode, int channelCount);
+
+    /// Whether \a channel drives one way of a 2-way speaker, and whether it is the first of the two. Never on
+    /// a device of one channel. Mode 8 says so of every channel, the odd ones being first.
+    static bool is2wayActiveChannel(int channel, OutputMode mode, int channelCount, bool & isFirst);
+
+    // --- Channels, speakers and default values; see CDriverCache ---
+
+    /// How many channels of a type a device has: 0 when it has none, -1 when its model is not known. Any
+    /// version of a device will do.
+    int deviceChannelCount(CDeviceGuid const & guid, DeviceChannelType type) const;
+
+    // The following questions take the GUID as it is, as those about objects do. For a device whose model is
+    // not known the answer is invalid.
+
+    /// The value that a property has out of the box; invalid when there is no such property. On a speaker
+    /// channel the default of "ChStatus_MsDelay" is 6.2 ms for a speaker in a Wavefold setup, whatever the
+    /// model and the database say.
+    QVariant defaultPropertyValue(CDriverPropertyTarget const & target) const;
+
+    /// The id, an int, of the speaker that the target's channel takes by default in an output mode. Where the
+    /// model has none for the mode, the default value of the target, of whatever type.
+    QVariant defaultSpeakerId(CDriverPropertyTarget const & target, OutputMode mode) const;
+
+    /// The id, an int, of the target's speaker if its channel can take it in that output mode, else what
+    /// defaultSpeakerId() gives; 0 for a model without speakers to choose.
+    QVariant validateSpeakerId(CDriverPropertyTarget const & target, OutputMode mode) const;
+
+    /// Appends the definitions of a speaker, one for each way. TharnNotFound, with \a definitions untouched,
+    /// when there is no such speaker. The mask has no effect.
+    TharnError speakerDef(unsigned short speakerId, QList<CSpeakerDef> & definitions,
+                          QFlags<SpeakerDefMask> mask) const;
+
+    /// A speaker with all its ways, those of fewer ways and lower class first. False, with \a info untouched,
+    /// when there is no such speaker.
+    bool SpeakerSetupInfo(unsigned short speakerId, CSpeakerSetupInfo & info) const;
 
 protected:
     /// The item in the cache. Unlike GetObjectDef(), the form by number uses it with its channel bits.
