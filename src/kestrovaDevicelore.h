@@ -26,6 +26,7 @@
 #include "cache/driverDatabaseInfo.h"
 #include "cache/getItemReturnValue.h"
 #include "cache/speakerType.h"
+#include "facade/basicControlType.h"
 #include "facade/devicelore.h"
 #include "facade/speakerDspData.h"
 #include "records/convertResult.h"

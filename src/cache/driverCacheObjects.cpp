@@ -6,6 +6,7 @@
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheObjectItemList.h"
 #include "cache/driverCacheSpeakerItemList.h"
+#include "cache/filterObject.h"
 #include "cache/objectKey.h"
 
 #include <QMessageLogger>
@@ -17,19 +18,6 @@ namespace kestrova::Morvel::Devicelore {
 namespace {
 
 constexpr unsigned short stepOfOneFlag = 0x20; // such an object moves in single steps, whatever its row says
-
-/// "Config_Filter1" to "Config_Filter7", and whatever else stands in the place of the digit.
-bool isFilterObject(QString const & name)
-{
-    return name.size() == 14 && name.startsWith(QLatin1String("Config_Filter"));
-}
-
-/// The digit at the end of a filter object's name; 0 when it is none.
-unsigned char filterNumberOf(QString const & name)
-{
-    int const digit = name.at(name.size() - 1).unicode() - u'0';
-    return static_cast<unsigned char>(digit >= 0 && digit <= 9 ? digit : 0);
-}
 
 /// Takes over the filter's limits. What then has two states is a toggle, and what has more is none.
 void takeLimits(CDriverCacheObjectItem & item, CDriverCacheFilterItem const & filter)

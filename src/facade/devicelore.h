@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cache/driverCache.h"
+#include "facade/basicControlType.h"
 #include "facade/speakerDspData.h"
 #include "records/deviceChannelInfo.h"
 #include "records/deviceloreExport.h"
@@ -11,6 +12,7 @@
 
 namespace kestrova::Morvel::Devicelore {
 
+class CDeviceProperty;
 class CDriverPropertyTarget;
 class CSpeakerSetupInfo;
 
@@ -21,6 +23,17 @@ class CSpeakerSetupInfo;
 /// make a new one.
 class KESTROVA_DEVICELORE_EXPORT CDevicelore : public QObject {
 public:
+    /// What validateValue() found, and did.
+    enum ValidationState : qint32 {
+        Valid = 0,         ///< the value is legal
+        AdjustedToMax = 1, ///< it was above the range and is the maximum now
+        AdjustedToMin = 2, ///< it was below the range and is the minimum now
+        RoundedUp = 3,     ///< it lay between two steps and is on the upper one now
+        RoundedDown = 4,
+        Truncated = 5, ///< the text was too long and is cut
+        Invalid = 6,   ///< the value is of no usable type, or there is no such object
+    };
+
     /// Makes a cache of its own and opens every file "*.db3" in the application's directory, in the order of
     /// their names, ignoring case. Without databases, or when one cannot be opened, the facade works and
     /// finds nothing.
@@ -37,6 +50,58 @@ public:
     /// Clears and destroys the cache, which closes all databases.
     ~CDevicelore() override;
 
+    // --- Operations that a subclass may replace. Their order is part of the binary interface. ---
+
+    // Values: a device speaks in raw values, a user thinks in real ones, with a unit. The object's format
+    // says how one becomes the other, and its minimum, maximum and step which are legal. The record must hold
+    // the members that a conversion needs: format and objectType, to which validation adds the range, or the
+    // size of a text.
+
+    /// Makes a real value a raw one: an int, or for formats of their own a float, a text or an unsigned
+    /// integer. Numbers are rounded to four decimals. False, with \a value as it was, for an object type that
+    /// is not converted (4 and 255), and for a value that the format cannot hold; but a number that cannot be
+    /// read by the conversion "f" leaves 0.
+    virtual bool realToDevice(CObjectDef const & object, QVariant & value);
+
+    /// Converts minimum, maximum and step, each on its own, through the form above. A member that cannot be
+    /// converted stays. Whether all could be.
+    virtual bool realToDevice(CObjectDef & object);
+
+    /// Makes a raw value a real one: a double of an int, an unsigned or a double (cut to 32 bits first), a
+    /// text of a text. False, with \a value as it was, when the format cannot print it, and for a text of an
+    /// object whose flags, if known, have 0x400.
+    ///
+    /// Two answers mislead: the bytes of a text object become a text, with the result false; and a
+    /// hexadecimal object's value is overwritten even when the result is false.
+    virtual bool deviceToReal(CObjectDef const & object, QVariant & value);
+
+    /// The same for minimum, maximum and step. A text object stays as it is, with the result true, unlike on
+    /// the way back.
+    virtual bool deviceToReal(CObjectDef & object);
+
+    /// Whether a real value is legal; if not, it is corrected.
+    ///
+    /// An on/off value below 0 or above 1 is limited; one that is no integer is Invalid, stays, and is logged
+    /// as a warning. A number becomes a double (0 if it is none) and is limited to the range, or else, with
+    /// \a roundToStep, rounded to the step. What was limited is not rounded, and what was rounded is not
+    /// limited again. A text is cut to one character less than the size. All other objects take anything.
+    virtual ValidationState validateValue(QVariant & value, CObjectDef const & object,
+                                          bool roundToStep) const;
+
+    // Property filters: named groups of properties. See CDriverCachePropertyFilter for the rules.
+
+    /// The names of the filters that the access level shows, in no defined order.
+    virtual QStringList enumDevicePropertyFilter() const;
+
+    /// The names of a filter's properties; empty when there is no such filter.
+    virtual QStringList devicePropertyFilter(QString const & name) const;
+
+    /// What an SQL statement of the caller's own gives in its first column, from all databases and without
+    /// duplicates. A database in which it fails adds nothing; the access level plays no part.
+    virtual QStringList devicePropertyFilterByExpression(QString const & expression) const;
+
+    // --- The frame ---
+
     /// Appends a description of each open database, in opening order, behind what \a list holds; behind them
     /// one of the speaker DSP database, when there is one that opens.
     void databaseInfos(QList<CDriverDatabaseInfo> & list) const;
@@ -50,6 +115,15 @@ public:
     void setDeviceAccessLevel(unsigned char level);
 
     // --- Devices ---
+
+    /// The GUID whose description stands for \a guid, or the null GUID.
+    CDeviceGuid determineDriverGuid(CDeviceGuid const & guid) const;
+
+    /// The level that the description of \a guid needs, or CDriverCacheGuidItem::GuidAccessUnknown.
+    CDriverCacheGuidItem::GuidAccess deviceGuidAccessLevel(CDeviceGuid const & guid) const;
+
+    /// The device type strings of all devices that have one by GUID, in no defined order.
+    QStringList deviceModels() const;
 
     /// The base GUID (version 0) of a device type string; the null GUID when it is unknown.
     CDeviceGuid guidOnDeviceType(QString const & deviceType) const;
@@ -96,6 +170,74 @@ public:
 
     /// Box and object number of an object; 65535 when there is none.
     unsigned short objectNumber(CDeviceGuid const & guid, QString const & name) const;
+
+    // --- Properties: how an application shows them ---
+    // A channel information that is not valid, or a speaker outside the bounds of the cache, has no property.
+    // A null one asks about the device as a whole.
+
+    /// Fills range, unit, decimals, type, control and rights of the property that the record names. The value
+    /// becomes the minimum. A channel that the caller has set stays; -1 becomes the object's number of
+    /// channels. The GUID may be of any version. False, with \a property untouched, when there is no such
+    /// property.
+    bool devicePropertyInfo(CDeviceGuid const & guid, CDeviceProperty & property,
+                            CDeviceChannelInfo const * channelInfo) const;
+
+    /// The kind of control, and in \a writable whether the access level allows to set the value. ControlNone,
+    /// with \a writable untouched, when there is no such object on that very GUID.
+    BasicControlType DetermineSimpleControlType(CDeviceGuid const & guid, QString const & name,
+                                                bool & writable,
+                                                CDeviceChannelInfo const * channelInfo) const;
+
+    /// Minimum, maximum and step as doubles. The GUID is used as it is, unlike in devicePropertyInfo().
+    /// False, with all three untouched, when there is no such property.
+    bool GetDevicePropertyRange(CDeviceGuid const & guid, CDeviceProperty const & property, QVariant & min,
+                                QVariant & max, QVariant & step,
+                                CDeviceChannelInfo const * channelInfo) const;
+
+    /// Whether the device has the object, and on a speaker channel also the speaker what the object is for: a
+    /// filter, Cablefit, or a Wavefold setup.
+    bool IsObjectSupported(CDeviceGuid const & guid, QString const & name,
+                           CDeviceChannelInfo const * channelInfo) const;
+
+    /// validateValue(), rounding to the step, for callers that have only a name. The GUID may be of any
+    /// version. Invalid, with \a value as it was, when there is no such object.
+    ValidationState AdjustDeviceProperty(CDeviceGuid const & guid, QString const & name, QVariant & value,
+                                         CDeviceChannelInfo const * channelInfo) const;
+
+    /// Decodes a text of a device that ends with 0 and in which the byte 0x81 stands for the Ohm sign. Sets
+    /// \a value in any case but a null \a text; true when there was such a byte. \a text is changed: it ends
+    /// at the first of them afterwards.
+    static bool parseVokraAscii(unsigned char * text, QVariant & value);
+
+    // --- Texts of values ---
+    // The offset is an object's textOffset(). The texts lie in the database of that very GUID.
+
+    /// The text of a value, taken as an int; null when there is none.
+    QString objectValueString(CDeviceGuid const & guid, int textOffset, QVariant const & value) const;
+
+    /// Replaces \a list by the values and their texts, in no defined order, and gives their number; -1 when
+    /// there are none. With an offset of 0 or below, which no object with texts has, \a list stays.
+    int listValueStrings(CDeviceGuid const & guid, int textOffset, QList<QPair<int, QString>> & list);
+
+    // --- Speakers and filters of a device; see CDriverCache ---
+
+    bool isSpeakerSupportedByDevice(unsigned short speakerId, CDeviceGuid const & guid) const;
+
+    /// Replaces \a ids by the device's speakers in display order. TharnNotFound, with \a ids untouched, when
+    /// it has none.
+    TharnError listSpeakersForDevice(CDeviceGuid const & guid, QList<unsigned short> & ids);
+
+    /// Appends the device's speakers with their short display names, in display order.
+    TharnError listSpeakersForDevice(CDeviceGuid const & guid,
+                                     QList<QPair<unsigned short, QString>> & speakers);
+
+    /// Appends those of the device's speakers that fit one of the types and the output mode.
+    TharnError listSpeakersForDevice(CDeviceGuid const & guid, QList<unsigned short> & ids,
+                                     QFlags<SpeakerType> types, OutputMode mode) const;
+
+    /// The name of a speaker's filter; null when there is none. The number is cut to its low byte. Mind the
+    /// order: here the number comes before the channel.
+    QString GetFilterName(CDeviceGuid const & guid, int filterNumber, CDeviceChannelInfo const * channelInfo);
 
     // --- DSP data of speakers ---
 
@@ -187,6 +329,9 @@ protected:
     CDriverCache * cache = nullptr;
 
 private:
+    bool isChannelPossible(CDeviceChannelInfo const * channelInfo) const;
+    bool isSupportedBySpeaker(CDeviceGuid const & guid, QString const & name,
+                              CDeviceChannelInfo const & speaker) const;
     bool visibleModel(CDeviceGuid const & guid, QString & model) const;
     void correctDelayMinimum(QString const & name, CObjectDef & target,
                              CDeviceChannelInfo const * channelInfo) const;
