@@ -147,21 +147,3 @@ TEST(DefaultValues, OfAVersionThatIsNotDescribedComeFromTheModelOnly)
     EXPECT_EQ(defaultOf(world.cache, 0xC7000912, "Eq_Fg2"), "double 2000");
     EXPECT_EQ(defaultOf(world.cache, 0xC7000912, "Volume"), "invalid") << "the GUID is used as it is";
 }
-
-TEST(DefaultValues, OfAnObjectThatTheLevelHidesAreInvalid)
-{
-    ModelWorld world;
-    kestrova::test::DatabaseFolder folder;
-    folder.add(QStringLiteral("b.db3"),
-               QStringLiteral("CREATE TABLE Guids (GUID TEXT, DeviceType TEXT, Version TEXT, Access INTEGER);"
-                              "INSERT INTO Guids VALUES ('C7000112', 'Hesko', '', 0);"
-                              "CREATE TABLE Objects (id INTEGER PRIMARY KEY, Name TEXT, BoxNumber INTEGER, "
-                              "ObjectNumber INTEGER, Format TEXT, Access INTEGER, DefaultValue TEXT);"
-                              "INSERT INTO Objects VALUES (1, 'Volume', 1, 1, '%d', 10, '5');"
-                              "CREATE TABLE guidsandobjects (objectid INTEGER, guid TEXT);"
-                              "INSERT INTO guidsandobjects VALUES (1, 'C7000112');"));
-    ASSERT_EQ(world.cache.openDatabases(folder.dir()), 1);
-    EXPECT_EQ(defaultOf(world.cache, 0xC7000112, "Volume"), "invalid");
-    world.cache.setGuidSupportedLevel(1);
-    EXPECT_EQ(defaultOf(world.cache, 0xC7000112, "Volume"), "double 5");
-}

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <climits>
 #include <string>
 
 using namespace kestrova::Morvel::Devicelore;
@@ -189,6 +190,38 @@ TEST(DefaultSpeaker, OfEveryModeAndChannelOfTheModelsWithTables)
                       text(at(model.defaults, mode, channel)))
                 << where(model.model, mode, channel);
         });
+    }
+}
+
+TEST(DefaultSpeaker, OfAChannelFarFromThoseOfTheDeviceGoesByOddAndEven)
+{
+    struct Row {
+        int mode;
+        int oddBelow;
+        int evenBelow;
+        int oddAbove;
+        int evenAbove;
+    };
+
+    Row const rows[] = {
+        {0, 71, 71, 71, 71}, {1, 71, 71, 71, 71}, {2, 11, 11, 71, 71},
+        {3, 71, 71, 71, 71}, {4, 71, 71, 11, 11}, {5, 71, 68, 71, 68},
+        {6, 11, 11, 68, 68}, {7, 68, 68, 11, 11}, {8, 11, 11, 11, 11},
+    };
+    ModelWorld world;
+    auto const speaker = [&](int channel, int mode) {
+        return world.cache.defaultSpeakerId(target(0xC7000012, channel), OutputMode(mode)).toInt();
+    };
+    for (Row const & row : rows) {
+        SCOPED_TRACE(row.mode);
+        EXPECT_EQ(speaker(-3, row.mode), row.oddBelow);
+        EXPECT_EQ(speaker(-2147483647, row.mode), row.oddBelow);
+        EXPECT_EQ(speaker(-2, row.mode), row.evenBelow);
+        EXPECT_EQ(speaker(INT_MIN, row.mode), row.evenBelow);
+        EXPECT_EQ(speaker(11, row.mode), row.oddAbove);
+        EXPECT_EQ(speaker(INT_MAX, row.mode), row.oddAbove);
+        EXPECT_EQ(speaker(10, row.mode), row.evenAbove);
+        EXPECT_EQ(speaker(2147483646, row.mode), row.evenAbove);
     }
 }
 

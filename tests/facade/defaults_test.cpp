@@ -25,7 +25,8 @@ QString const world = QStringLiteral(
     "INSERT INTO SpeakerClasses VALUES (0, 'Full', '', 1, '');"
     "CREATE TABLE Speakers (SpeakerId INTEGER, Name TEXT, Class INTEGER, Rib INTEGER, DisplayNameShort TEXT, "
     "SortOrder INTEGER, CablefitMaxCount INTEGER, WfActive INTEGER);"
-    "INSERT INTO Speakers VALUES (12, 'Wave', 0, 0, 'W', 1, 0, 1), (13, 'Plain', 0, 0, 'P', 2, 0, 0);"
+    "INSERT INTO Speakers VALUES (12, 'Wave', 0, 0, 'W', 1, 0, 1), (13, 'Plain', 0, 0, 'P', 2, 0, 0),"
+    " (256, 'Nought', 0, 0, 'N', 3, 0, 1);"
     "CREATE TABLE GuidsSpeakersFilters (GUID TEXT, SpeakerId INTEGER, FilterId INTEGER, Access INTEGER);"
     "INSERT INTO GuidsSpeakersFilters VALUES ('C7000012', 12, 0, 0);");
 
@@ -81,7 +82,7 @@ TEST_F(Defaults, OfTheDelayOnAnotherSideAreThoseOfTheDatabase)
     channel.SetSpeakerId(12);
     channel.SetDeviceChannelType(ChannelTypeInput);
     CDriverPropertyTarget const target(hesko, QStringLiteral("ChStatus_MsDelay"), ChannelFirst, 0, &channel);
-    EXPECT_EQ(facade.defaultPropertyValue(target), QVariant(1.0));
+    EXPECT_EQ(facade.defaultPropertyValue(target), QVariant(1.0)) << "not even that of speaker 256";
 }
 
 TEST_F(Defaults, OfTheCacheStayAsTheyAre)
