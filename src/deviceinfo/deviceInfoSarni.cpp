@@ -53,7 +53,8 @@ Use useOf(int channel, OutputMode mode)
         channel = isOdd ? -1 : 0;
     else if (channel > 6)
         channel = isOdd ? 5 : 6;
-    return modeRows.at(std::size_t(mode)).at(std::size_t(channel + 1));
+    int const column = channel + 1;
+    return modeRows.at(std::size_t(mode)).at(std::size_t(column));
 }
 
 /// Mode 0 takes speakers on any channel, the others only on the channels that there are.

@@ -2,6 +2,7 @@
 
 #include "common/answer.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <vector>
@@ -12,19 +13,35 @@ using namespace tools;
 
 class Inspector;
 
+/// An option of one command; options that all commands have are read by the command line itself.
+struct CommandOption {
+    char const * name;    ///< without the dashes
+    char const * value;   ///< name of its value
+    char const * summary; ///< one line for `devicelore COMMAND --help`
+};
+
+/// What the user gave to a command.
+struct Arguments {
+    QStringList words;
+    QHash<QString, QString> options; ///< value by name, of the options that were given
+};
+
 /// One command of the tool. A new command is a function and a row in commands().
 struct Command {
     char const * name;
-    QStringList parameters;   ///< names of its arguments, all needed
+    QStringList parameters;   ///< names of its arguments, all needed but a last one "[NAME...]"
     char const * summary;     ///< one line for the list of commands
     char const * description; ///< for `devicelore COMMAND --help`
-    Answer (*run)(Inspector & inspector, QStringList const & arguments);
+    Answer (*run)(Inspector & inspector, Arguments const & arguments);
+    std::vector<CommandOption> options = {};
 };
 
 std::vector<Command> const & commands();
 
-Answer databasesAnswer(Inspector & inspector, QStringList const & arguments);
-Answer devicesAnswer(Inspector & inspector, QStringList const & arguments);
-Answer deviceAnswer(Inspector & inspector, QStringList const & arguments);
+Answer databasesAnswer(Inspector & inspector, Arguments const & arguments);
+Answer devicesAnswer(Inspector & inspector, Arguments const & arguments);
+Answer deviceAnswer(Inspector & inspector, Arguments const & arguments);
+Answer modesAnswer(Inspector & inspector, Arguments const & arguments);
+Answer defaultsAnswer(Inspector & inspector, Arguments const & arguments);
 
 } // namespace kestrova::inspector

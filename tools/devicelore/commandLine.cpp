@@ -1,7 +1,5 @@
 #include "commandLine.h"
 
-#include "command.h"
-
 #include <kestrovaDevicelore.h>
 
 #include <QCommandLineParser>
@@ -30,22 +28,43 @@ QString signature(Command const & command)
     return QStringList(QStringList{QLatin1String(command.name)} + command.parameters).join(QLatin1Char(' '));
 }
 
+int widestSignature()
+{
+    int width = 0;
+    for (Command const & command : commands())
+        width = std::max(width, static_cast<int>(signature(command).size()));
+    return width;
+}
+
 QString generalHelp()
 {
     QString text =
         QStringLiteral("usage: devicelore COMMAND [ARGUMENT...] [OPTION...]\n\n"
                        "Answers questions about devices from their description databases.\n\nCommands:\n");
     for (Command const & command : commands())
-        text += QStringLiteral("  %1%2\n")
-                    .arg(signature(command).leftJustified(20), QLatin1String(command.summary));
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(signature(command).leftJustified(widestSignature()), QLatin1String(command.summary));
     return text + QLatin1Char('\n') + optionsText + QLatin1Char('\n') + exitCodes;
+}
+
+QString ownOptionsText(Command const & command)
+{
+    if (command.options.empty())
+        return {};
+    QString text = QStringLiteral("Options of this command:\n");
+    for (CommandOption const & option : command.options) {
+        QString const use =
+            QStringLiteral("--%1 %2").arg(QLatin1String(option.name), QLatin1String(option.value));
+        text += QStringLiteral("  %1%2\n").arg(use.leftJustified(20), QLatin1String(option.summary));
+    }
+    return text + QLatin1Char('\n');
 }
 
 QString commandHelp(Command const & command)
 {
     return QStringLiteral("usage: devicelore %1 [OPTION...]\n\n").arg(signature(command)) +
-           QString::fromUtf8(command.description) + QLatin1Char('\n') + optionsText + QLatin1Char('\n') +
-           exitCodes;
+           QString::fromUtf8(command.description) + QLatin1Char('\n') + ownOptionsText(command) +
+           optionsText + QLatin1Char('\n') + exitCodes;
 }
 
 QString versionText()
@@ -72,6 +91,46 @@ Command const * findCommand(QString const & name)
     return &*found;
 }
 
+bool takesWords(Command const & command, int count)
+{
+    int const parameters = static_cast<int>(command.parameters.size());
+    if (parameters != 0 && command.parameters.last().endsWith(QLatin1String("...]")))
+        return count >= parameters - 1;
+    return count == parameters;
+}
+
+/// The options of all commands, each name once.
+QStringList ownOptionNames()
+{
+    QStringList names;
+    for (Command const & command : commands()) {
+        for (CommandOption const & option : command.options)
+            names.append(QLatin1String(option.name));
+    }
+    names.removeDuplicates();
+    return names;
+}
+
+bool hasOption(Command const & command, QString const & name)
+{
+    return std::any_of(command.options.begin(), command.options.end(),
+                       [&](CommandOption const & option) { return name == QLatin1String(option.name); });
+}
+
+QHash<QString, QString> readOwnOptions(QCommandLineParser const & parser, Command const & command)
+{
+    QHash<QString, QString> values;
+    for (QString const & name : ownOptionNames()) {
+        if (!parser.isSet(name))
+            continue;
+        if (!hasOption(command, name))
+            throw usageFailure(
+                QStringLiteral("--%1 is no option of '%2'").arg(name, QLatin1String(command.name)));
+        values.insert(name, parser.value(name));
+    }
+    return values;
+}
+
 unsigned char readAccessLevel(QString const & text)
 {
     bool isNumber = false;
@@ -92,6 +151,8 @@ CommandLine readCommandLine(QStringList const & arguments)
     QCommandLineOption const version(QStringLiteral("version"));
     QCommandLineParser parser;
     parser.addOptions({databases, accessLevel, json, help, version});
+    for (QString const & name : ownOptionNames())
+        parser.addOption(QCommandLineOption(name, QString(), QStringLiteral("VALUE")));
     if (!parser.parse(QStringList{QStringLiteral("devicelore")} + arguments))
         throw usageFailure(parser.errorText().chopped(1));
 
@@ -112,9 +173,9 @@ CommandLine readCommandLine(QStringList const & arguments)
         line.text = commandHelp(*line.command);
         return line;
     }
-    if (words.size() != line.command->parameters.size())
+    if (!takesWords(*line.command, static_cast<int>(words.size())))
         throw usageFailure(QStringLiteral("usage: devicelore %1").arg(signature(*line.command)));
-    line.arguments = words;
+    line.arguments = {words, readOwnOptions(parser, *line.command)};
     line.databaseFolders = parser.values(databases);
     if (parser.isSet(accessLevel))
         line.accessLevel = readAccessLevel(parser.value(accessLevel));

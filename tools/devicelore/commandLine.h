@@ -1,5 +1,7 @@
 #pragma once
 
+#include "command.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -7,12 +9,10 @@
 
 namespace kestrova::inspector {
 
-struct Command;
-
 /// What the user asked for.
 struct CommandLine {
     Command const * command = nullptr;
-    QStringList arguments;       ///< of the command, as many as it takes
+    Arguments arguments;         ///< of the command, as many words as it takes and no foreign options
     QStringList databaseFolders; ///< further folders of databases, behind the tool's own
     unsigned char accessLevel = 1;
     bool json = false;

@@ -8,7 +8,7 @@ using namespace kestrova::Morvel::Devicelore;
 
 namespace kestrova::inspector {
 
-Answer databasesAnswer(Inspector & inspector, QStringList const &)
+Answer databasesAnswer(Inspector & inspector, Arguments const &)
 {
     QList<CDriverDatabaseInfo> infos;
     inspector.facade().databaseInfos(infos);

@@ -1,11 +1,11 @@
 #include "command.h"
+#include "deviceArgument.h"
 #include "guidParts.h"
 #include "inspector.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QPair>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -27,23 +27,6 @@ struct Description {
     QList<int> hiddenVersions;
     bool newerThanAllKnown = false; ///< judged by the visible versions, as an application can
 };
-
-CDeviceGuid guidOfModel(InspectorCache & cache, QString const & model)
-{
-    CDeviceGuid guid;
-    if (cache.guidOnDeviceType(model, guid))
-        return cache.determineDriverGuid(withVersion(guid, 255)); // asks for the newest
-    QStringList models = cache.deviceModels();
-    models.sort();
-    throw Failure(ExitNotFound, QStringLiteral("there is no model '%1'; the models are %2")
-                                    .arg(model, models.join(QStringLiteral(", "))));
-}
-
-CDeviceGuid guidOfArgument(InspectorCache & cache, QString const & argument)
-{
-    static QRegularExpression const guidText(QStringLiteral("^(0[xX])?[0-9A-Fa-f]{8}$"));
-    return guidText.match(argument).hasMatch() ? CDeviceGuid(argument) : guidOfModel(cache, argument);
-}
 
 Reason reasonFor(Description const & description)
 {
@@ -178,10 +161,10 @@ QJsonObject asJson(InspectorCache & cache, Description const & description)
 
 } // namespace
 
-Answer deviceAnswer(Inspector & inspector, QStringList const & arguments)
+Answer deviceAnswer(Inspector & inspector, Arguments const & arguments)
 {
     InspectorCache & cache = inspector.cache();
-    Description const description = describe(cache, guidOfArgument(cache, arguments.first()));
+    Description const description = describe(cache, guidOfArgument(cache, arguments.words.first()));
     Answer answer;
     answer.text = asText(cache, description);
     answer.json = asJson(cache, description);

@@ -11,7 +11,7 @@ using namespace kestrova::Morvel::Devicelore;
 
 namespace kestrova::inspector {
 
-Answer devicesAnswer(Inspector & inspector, QStringList const &)
+Answer devicesAnswer(Inspector & inspector, Arguments const &)
 {
     InspectorCache & cache = inspector.cache();
     QList<CDeviceGuid> guids = cache.descriptions().guids();

@@ -11,13 +11,24 @@ class QDir;
 
 namespace kestrova::inspector {
 
-/// The tool's cache: a cache that also tells which descriptions there are and where they lie, which an
-/// application need not know.
+/// The tool's cache: a cache that also tells which descriptions there are and where they lie, and whether it
+/// was asked for an object, which an application need not know.
 class InspectorCache : public Morvel::Devicelore::CDriverCache {
 public:
     using CDriverCache::connectionName;
+    using CDriverCache::GetDriverObject;
+
+    /// Every question for an object comes by here, those of the library itself too.
+    Morvel::Devicelore::GetItemReturnValue GetDriverObject(Morvel::Devicelore::CDriverCacheObjectItem *& item,
+                                                           Morvel::Devicelore::CDriverCacheKey * key) override
+    {
+        wasAskedForObject = true;
+        return CDriverCache::GetDriverObject(item, key);
+    }
 
     Morvel::Devicelore::CDriverCacheGuidItemList & descriptions() { return *guidItems; }
+
+    bool wasAskedForObject = false; ///< whoever wants to know clears it first
 };
 
 /// The library with all databases open that the user named.

@@ -46,6 +46,25 @@ std::vector<Command> const & kestrova::inspector::commands()
          "the one asked for (exact), else the newest that the access level lets through (newest visible), or "
          "none.\n",
          deviceAnswer},
+        {"modes",
+         {},
+         "the output modes: which channels drive a speaker together",
+         "Lists the output modes. Channels joined by \"+\" drive one 2-way speaker, any other a speaker of "
+         "its "
+         "own. The counts\n"
+         "are of the speakers on a device of four channels, and on one of two.\n",
+         modesAnswer},
+        {"defaults",
+         {QStringLiteral("GUID|MODEL"), QStringLiteral("[PROPERTY...]")},
+         "default speaker, stored speaker and default values, and where they come from",
+         "Tells which speaker each channel takes in an output mode, what becomes there of a stored speaker, "
+         "and the default\n"
+         "value of each property, each with where it comes from: the table of the mode, that of the model, "
+         "or the database.\n",
+         defaultsAnswer,
+         {{"mode", "M", "the output mode, -1 (no mode) to 8; 0 if not given"},
+          {"channel", "N", "the channel, 0 to 7; if not given, all that take speakers"},
+          {"speaker", "ID", "the stored speaker, 0 (none) to 65535; 0 if not given"}}},
     };
     return all;
 }

@@ -1,0 +1,35 @@
+#include "deviceArgument.h"
+
+#include "common/failure.h"
+#include "guidParts.h"
+
+#include <QRegularExpression>
+
+using namespace kestrova::Morvel::Devicelore;
+
+namespace kestrova::inspector {
+
+using namespace tools;
+
+namespace {
+
+CDeviceGuid guidOfModel(InspectorCache & cache, QString const & model)
+{
+    CDeviceGuid guid;
+    if (cache.guidOnDeviceType(model, guid))
+        return cache.determineDriverGuid(withVersion(guid, 255)); // asks for the newest
+    QStringList models = cache.deviceModels();
+    models.sort();
+    throw Failure(ExitNotFound, QStringLiteral("there is no model '%1'; the models are %2")
+                                    .arg(model, models.join(QStringLiteral(", "))));
+}
+
+} // namespace
+
+CDeviceGuid guidOfArgument(InspectorCache & cache, QString const & argument)
+{
+    static QRegularExpression const guidText(QStringLiteral("^(0[xX])?[0-9A-Fa-f]{8}$"));
+    return guidText.match(argument).hasMatch() ? CDeviceGuid(argument) : guidOfModel(cache, argument);
+}
+
+} // namespace kestrova::inspector
