@@ -23,6 +23,7 @@ extern "C" {
 void * __libc_malloc(std::size_t size);
 void * __libc_calloc(std::size_t number, std::size_t size);
 void * __libc_realloc(void * memory, std::size_t size);
+
 // NOLINTEND(bugprone-reserved-identifier)
 
 void * malloc(std::size_t size)
