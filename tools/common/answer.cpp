@@ -53,8 +53,10 @@ QString fieldsText(QVector<QPair<QString, QString>> const & fields)
     for (auto const & field : fields)
         width = std::max(width, static_cast<int>(field.first.size()));
     QString text;
-    for (auto const & field : fields)
-        text += field.first.leftJustified(width) + columnGap + field.second + QLatin1Char('\n');
+    for (auto const & field : fields) {
+        if (!field.second.isEmpty())
+            text += field.first.leftJustified(width) + columnGap + field.second + QLatin1Char('\n');
+    }
     return text;
 }
 

@@ -20,7 +20,7 @@ struct Answer {
 /// Rows under a heading, in columns as wide as their widest cell.
 QString tableText(QStringList const & heading, QVector<QStringList> const & rows);
 
-/// "name  value" lines with the values in one column.
+/// "name  value" lines with the values in one column. A field with an empty value has no line.
 QString fieldsText(QVector<QPair<QString, QString>> const & fields);
 
 /// The JSON text of an answer, with sorted keys.

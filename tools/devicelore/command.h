@@ -16,7 +16,7 @@ class Inspector;
 /// An option of one command; options that all commands have are read by the command line itself.
 struct CommandOption {
     char const * name;    ///< without the dashes
-    char const * value;   ///< name of its value
+    char const * value;   ///< name of its value; null for an option without one
     char const * summary; ///< one line for `devicelore COMMAND --help`
 };
 
@@ -29,7 +29,7 @@ struct Arguments {
 /// One command of the tool. A new command is a function and a row in commands().
 struct Command {
     char const * name;
-    QStringList parameters;   ///< names of its arguments, all needed but a last one "[NAME...]"
+    QStringList parameters;   ///< names of its arguments, all needed but a last one "[NAME]" or "[NAME...]"
     char const * summary;     ///< one line for the list of commands
     char const * description; ///< for `devicelore COMMAND --help`
     Answer (*run)(Inspector & inspector, Arguments const & arguments);
@@ -43,5 +43,18 @@ Answer devicesAnswer(Inspector & inspector, Arguments const & arguments);
 Answer deviceAnswer(Inspector & inspector, Arguments const & arguments);
 Answer modesAnswer(Inspector & inspector, Arguments const & arguments);
 Answer defaultsAnswer(Inspector & inspector, Arguments const & arguments);
+Answer objectAnswer(Inspector & inspector, Arguments const & arguments);
+Answer objectsAnswer(Inspector & inspector, Arguments const & arguments);
+Answer speakersAnswer(Inspector & inspector, Arguments const & arguments);
+Answer speakerAnswer(Inspector & inspector, Arguments const & arguments);
+Answer filterAnswer(Inspector & inspector, Arguments const & arguments);
+Answer describeAnswer(Inspector & inspector, Arguments const & arguments);
+Answer convertAnswer(Inspector & inspector, Arguments const & arguments);
+Answer checkAnswer(Inspector & inspector, Arguments const & arguments);
+Answer textAnswer(Inspector & inspector, Arguments const & arguments);
+Answer groupsAnswer(Inspector & inspector, Arguments const & arguments);
+Answer queryAnswer(Inspector & inspector, Arguments const & arguments);
+Answer dspAnswer(Inspector & inspector, Arguments const & arguments);
+Answer versionAnswer(Inspector & inspector, Arguments const & arguments);
 
 } // namespace kestrova::inspector

@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 
 #include <algorithm>
+#include <map>
 
 namespace kestrova::inspector {
 
@@ -54,7 +55,7 @@ QString ownOptionsText(Command const & command)
     QString text = QStringLiteral("Options of this command:\n");
     for (CommandOption const & option : command.options) {
         QString const use =
-            QStringLiteral("--%1 %2").arg(QLatin1String(option.name), QLatin1String(option.value));
+            QStringLiteral("--%1 %2").arg(QLatin1String(option.name), QLatin1String(option.value)).trimmed();
         text += QStringLiteral("  %1%2\n").arg(use.leftJustified(20), QLatin1String(option.summary));
     }
     return text + QLatin1Char('\n');
@@ -94,21 +95,20 @@ Command const * findCommand(QString const & name)
 bool takesWords(Command const & command, int count)
 {
     int const parameters = static_cast<int>(command.parameters.size());
-    if (parameters != 0 && command.parameters.last().endsWith(QLatin1String("...]")))
-        return count >= parameters - 1;
-    return count == parameters;
+    QString const last = parameters != 0 ? command.parameters.last() : QString();
+    int const needed = last.endsWith(QLatin1Char(']')) ? parameters - 1 : parameters;
+    return count >= needed && (count <= parameters || last.endsWith(QLatin1String("...]")));
 }
 
 /// The options of all commands, each name once.
-QStringList ownOptionNames()
+std::map<QString, CommandOption> ownOptions()
 {
-    QStringList names;
+    std::map<QString, CommandOption> options;
     for (Command const & command : commands()) {
         for (CommandOption const & option : command.options)
-            names.append(QLatin1String(option.name));
+            options.emplace(QLatin1String(option.name), option);
     }
-    names.removeDuplicates();
-    return names;
+    return options;
 }
 
 bool hasOption(Command const & command, QString const & name)
@@ -120,13 +120,13 @@ bool hasOption(Command const & command, QString const & name)
 QHash<QString, QString> readOwnOptions(QCommandLineParser const & parser, Command const & command)
 {
     QHash<QString, QString> values;
-    for (QString const & name : ownOptionNames()) {
+    for (auto const & [name, option] : ownOptions()) {
         if (!parser.isSet(name))
             continue;
         if (!hasOption(command, name))
             throw usageFailure(
                 QStringLiteral("--%1 is no option of '%2'").arg(name, QLatin1String(command.name)));
-        values.insert(name, parser.value(name));
+        values.insert(name, option.value != nullptr ? parser.value(name) : QString());
     }
     return values;
 }
@@ -151,8 +151,8 @@ CommandLine readCommandLine(QStringList const & arguments)
     QCommandLineOption const version(QStringLiteral("version"));
     QCommandLineParser parser;
     parser.addOptions({databases, accessLevel, json, help, version});
-    for (QString const & name : ownOptionNames())
-        parser.addOption(QCommandLineOption(name, QString(), QStringLiteral("VALUE")));
+    for (auto const & [name, option] : ownOptions())
+        parser.addOption(QCommandLineOption(name, QString(), QLatin1String(option.value)));
     if (!parser.parse(QStringList{QStringLiteral("devicelore")} + arguments))
         throw usageFailure(parser.errorText().chopped(1));
 

@@ -1,5 +1,6 @@
 #include "command.h"
 #include "deviceArgument.h"
+#include "optionValue.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -20,23 +21,6 @@ struct Default {
 };
 
 using SpeakerQuestion = QVariant (CDevicelore::*)(CDriverPropertyTarget const &, OutputMode) const;
-
-int numberOption(Arguments const & arguments, char const * name, int lowest, int highest, int ifMissing)
-{
-    QString const option = QLatin1String(name);
-    if (!arguments.options.contains(option))
-        return ifMissing;
-    QString const text = arguments.options.value(option);
-    bool isNumber = false;
-    int const number = text.toInt(&isNumber);
-    if (!isNumber || number < lowest || number > highest)
-        throw Failure(ExitUsage, QStringLiteral("--%1 takes a number from %2 to %3, not '%4'")
-                                     .arg(option)
-                                     .arg(lowest)
-                                     .arg(highest)
-                                     .arg(text));
-    return number;
-}
 
 /// The description that stands for the device, as an application would look it up first.
 CDeviceGuid describedGuid(InspectorCache & cache, QString const & argument)

@@ -32,4 +32,15 @@ CDeviceGuid guidOfArgument(InspectorCache & cache, QString const & argument)
     return guidText.match(argument).hasMatch() ? CDeviceGuid(argument) : guidOfModel(cache, argument);
 }
 
+CDeviceGuid descriptionOfArgument(InspectorCache & cache, QString const & argument)
+{
+    CDeviceGuid const asked = guidOfArgument(cache, argument);
+    CDeviceGuid const described = cache.determineDriverGuid(asked);
+    if (!cache.descriptions().isKnownGuid(described))
+        throw Failure(ExitNotFound,
+                      QStringLiteral("there is no description of %1; `devicelore device %1` tells why")
+                          .arg(asked.toString()));
+    return described;
+}
+
 } // namespace kestrova::inspector

@@ -8,4 +8,7 @@ namespace kestrova::inspector {
 /// Throws Failure with ExitNotFound for an unknown model.
 Morvel::Devicelore::CDeviceGuid guidOfArgument(InspectorCache & cache, QString const & argument);
 
+/// The GUID of the description that stands for the device. Throws Failure with ExitNotFound when none does.
+Morvel::Devicelore::CDeviceGuid descriptionOfArgument(InspectorCache & cache, QString const & argument);
+
 } // namespace kestrova::inspector

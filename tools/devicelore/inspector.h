@@ -28,6 +28,14 @@ public:
 
     Morvel::Devicelore::CDriverCacheGuidItemList & descriptions() { return *guidItems; }
 
+    /// A filter that was named before; null when the speaker has none.
+    Morvel::Devicelore::CDriverCacheFilterItem *
+    filter(Morvel::Devicelore::CDeviceGuid const & guid,
+           Morvel::Devicelore::CDeviceChannelInfo const & channel, int number)
+    {
+        return filterItems->item({guid, &channel, static_cast<unsigned char>(number)});
+    }
+
     bool wasAskedForObject = false; ///< whoever wants to know clears it first
 };
 
