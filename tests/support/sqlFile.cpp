@@ -10,8 +10,9 @@ namespace kestrova::test {
 void makeSqlFile(QString const & path, QString const & sql)
 {
     sqlite3 * handle = nullptr;
+    // SQLite leaves a file without content empty. Nothing here need survive a power failure.
     QByteArray const statements =
-        "PRAGMA user_version = 1;" + sql.toUtf8(); // SQLite leaves a file without content empty
+        "PRAGMA journal_mode = OFF; PRAGMA synchronous = OFF; PRAGMA user_version = 1;" + sql.toUtf8();
     int const opened = sqlite3_open(path.toUtf8().constData(), &handle);
     std::unique_ptr<sqlite3, decltype(&sqlite3_close)> const database(handle, sqlite3_close);
     if (opened != SQLITE_OK ||
