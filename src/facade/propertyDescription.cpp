@@ -91,11 +91,8 @@ bool CDevicelore::devicePropertyInfo(CDeviceGuid const & guid, CDeviceProperty &
     BasicControlType const control = DetermineSimpleControlType(driverGuid, name, isWritable, channelInfo);
     property.setSimpleControlType(CDeviceProperty::SimpleControlType(control));
     property.setDecimals(CObjectDef::decimals(object.format()));
-    if (isWritable)
-        property.modifyFlags(CDeviceProperty::PropertyEditable, CDeviceProperty::PropertyUndescribed);
-    else
-        property.modifyFlags({}, QFlags<CDeviceProperty::PropertyFlag>(CDeviceProperty::PropertyEditable) |
-                                     CDeviceProperty::PropertyUndescribed);
+    if (isWritable) // the flags of a description, above those of the object, are clear by now
+        property.modifyFlags(CDeviceProperty::PropertyEditable, {});
     return true;
 }
 

@@ -190,6 +190,14 @@ TEST_F(Description, SetsAndClearsTheFlagsOfADescription)
     EXPECT_EQ(higher.simpleControlType(), int(ControlValue));
 }
 
+TEST_F(Description, ReplacesTheFlagsOfAnEarlierOne)
+{
+    CDeviceProperty property = propertyNamed("Scaled");
+    property.setFlags(QFlags<CDeviceProperty::PropertyFlag>(QFlag(0x7FFFF)));
+    ASSERT_TRUE(facade->devicePropertyInfo(device, property, nullptr));
+    EXPECT_EQ(property.flags(), 0x3);
+}
+
 TEST_F(Description, MarksTheSlotsOfFilters)
 {
     struct Row {

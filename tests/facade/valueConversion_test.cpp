@@ -260,6 +260,9 @@ TEST(RealToDevice, MakesNumbersThatFitNoIntegerTheLowestOne)
         EXPECT_TRUE(facade.realToDevice(objectOf(3, "%s"), value));
         EXPECT_EQ(value, QVariant(QStringLiteral("8000000000000000"))) << number;
     }
+    QVariant large(6917529027641081856.0);
+    EXPECT_TRUE(facade.realToDevice(objectOf(3, "%s"), large));
+    EXPECT_EQ(large, QVariant(QStringLiteral("6000000000000000")));
     QVariant negative(-1.5);
     EXPECT_TRUE(facade.realToDevice(objectOf(3, "%s"), negative));
     EXPECT_EQ(negative, QVariant(QStringLiteral("ffffffffffffffff")));
