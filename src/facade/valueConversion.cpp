@@ -1,5 +1,7 @@
 #include "facade/devicelore.h"
 
+#include "records/scaledNumber.h"
+
 #include <QMessageLogger>
 
 #include <algorithm>
@@ -16,6 +18,16 @@ constexpr unsigned short textOnlyFlag = 0x400; // such an object's texts are no 
 // Some conversions read on behind the value: "s" up to a 0 byte, "H" as far as its width says.
 constexpr int bytesThatAFormatMayRead = 256;
 
+/// The number in a printed text; 0 when it is none. It is read with the decimal point with which it was
+/// printed, so that values convert alike in every locale.
+double printedNumber(QString text)
+{
+    char const point = decimalPoint();
+    if (point != '.' && point != 0)
+        text.replace(QLatin1Char(point), QLatin1Char('.'));
+    return text.toDouble();
+}
+
 /// Prints a raw number by the object's format and reads the text back as a real number.
 template <typename Number>
 bool numberToReal(CObjectDef const & object, Number raw, QVariant & value)
@@ -29,7 +41,7 @@ bool numberToReal(CObjectDef const & object, Number raw, QVariant & value)
     if (object.objectType() == CObjectDef::ObjectTypeHex)
         value = QVariant(double(text.toUInt(&isNumber, 16)));
     else
-        value = QVariant(text.toDouble());
+        value = QVariant(printedNumber(text));
     return isNumber;
 }
 

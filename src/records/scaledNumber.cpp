@@ -28,17 +28,6 @@ constexpr int printfLimit = 2000;
 constexpr quint64 exactLimit = quint64(1) << 52;
 constexpr int exactPrecision = 7;
 
-/// printf's decimal point, or 0 when it is no single byte.
-char decimalPoint()
-{
-#ifdef Q_OS_UNIX
-    char const * const point = nl_langinfo(RADIXCHAR); // localeconv() gathers two dozen facts for this one
-#else
-    char const * const point = std::localeconv()->decimal_point;
-#endif
-    return point[1] == 0 ? point[0] : '\0';
-}
-
 quint64 magnitudeOf(qint64 value)
 {
     return value < 0 ? 0 - static_cast<quint64>(value) : static_cast<quint64>(value);
@@ -71,6 +60,16 @@ void formatExactly(qint64 value, char point, FormatSpec const & spec, FieldText 
 }
 
 } // namespace
+
+char decimalPoint()
+{
+#ifdef Q_OS_UNIX
+    char const * const point = nl_langinfo(RADIXCHAR); // localeconv() gathers two dozen facts for this one
+#else
+    char const * const point = std::localeconv()->decimal_point;
+#endif
+    return point[1] == 0 ? point[0] : '\0';
+}
 
 void formatReal(double value, FormatSpec const & spec, FieldText & text)
 {

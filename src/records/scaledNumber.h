@@ -5,6 +5,9 @@
 
 namespace kestrova::Morvel::Devicelore {
 
+/// The decimal point of the process's locale, with which numbers are printed; 0 when it is no single byte.
+char decimalPoint();
+
 /// Prints as printf does, with the width, precision and flags of the format and the decimal point of the
 /// process.
 void formatReal(double value, FormatSpec const & spec, FieldText & text);

@@ -1,6 +1,7 @@
 #include "facade/devicelore.h"
 #include "support/messageRecorder.h"
 #include "support/print.h"
+#include "support/processLocale.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +12,7 @@
 
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::MessageRecorder;
+using kestrova::test::ProcessLocale;
 
 namespace {
 
@@ -105,6 +107,19 @@ TEST(DeviceToReal, PrintsTheRawValueByTheFormatAndReadsTheText)
         EXPECT_EQ(value, row.real) << row.name;
         EXPECT_EQ(value.userType(), row.real.userType()) << row.name;
     }
+}
+
+TEST(DeviceToReal, GivesTheSameUnderADecimalComma)
+{
+    ProcessLocale const german("de_DE.UTF-8");
+    if (!german.isAvailable())
+        GTEST_SKIP() << "the system has no locale de_DE.UTF-8";
+    CDevicelore facade;
+    QVariant value(-1225);
+    EXPECT_TRUE(facade.deviceToReal(objectOf(1, "%6.2d dB"), value));
+    EXPECT_EQ(value, QVariant(-12.25));
+    EXPECT_TRUE(facade.realToDevice(objectOf(1, "%6.2d dB"), value));
+    EXPECT_EQ(value, QVariant(-1225));
 }
 
 TEST(DeviceToReal, LeavesATextOfAnObjectWithTextsOfItsOwn)

@@ -4,6 +4,7 @@
 #include "facade/devicelore.h"
 #include "support/messageRecorder.h"
 #include "support/print.h"
+#include "support/processLocale.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +12,7 @@
 
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::MessageRecorder;
+using kestrova::test::ProcessLocale;
 
 namespace {
 
@@ -36,6 +38,7 @@ public:
 // From the question to the value that a user sees, on a speaker that changes the object's limits.
 TEST(RoadOfARequest, LeadsFromTheKeyOverTheRowToTheRecordAndTheValue)
 {
+    ProcessLocale const plain("C"); // printed numbers have the process's decimal point
     MessageRecorder const recorder;
     auto * const cache = new WatchedCache;
     QDir dir(QStringLiteral(KESTROVA_SAMPLES));
