@@ -3,6 +3,7 @@
 #include <kestrovaDevicelore.h>
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <map>
@@ -117,6 +118,21 @@ bool hasOption(Command const & command, QString const & name)
                        [&](CommandOption const & option) { return name == QLatin1String(option.name); });
 }
 
+/// Qt takes "-12" for options named 1 and 2. With a mark in front it takes it for a word.
+QChar const numberMark = QChar(QChar::ReplacementCharacter);
+
+QStringList withNumbersMarked(QStringList const & arguments)
+{
+    static QRegularExpression const negativeNumber(QStringLiteral("^(-\\.?[0-9])"));
+    QStringList marked = arguments;
+    return marked.replaceInStrings(negativeNumber, numberMark + QStringLiteral("\\1"));
+}
+
+QString withoutMark(QString const & word)
+{
+    return word.startsWith(numberMark) ? word.mid(1) : word;
+}
+
 QHash<QString, QString> readOwnOptions(QCommandLineParser const & parser, Command const & command)
 {
     QHash<QString, QString> values;
@@ -126,7 +142,7 @@ QHash<QString, QString> readOwnOptions(QCommandLineParser const & parser, Comman
         if (!hasOption(command, name))
             throw usageFailure(
                 QStringLiteral("--%1 is no option of '%2'").arg(name, QLatin1String(command.name)));
-        values.insert(name, option.value != nullptr ? parser.value(name) : QString());
+        values.insert(name, option.value != nullptr ? withoutMark(parser.value(name)) : QString());
     }
     return values;
 }
@@ -142,8 +158,9 @@ unsigned char readAccessLevel(QString const & text)
 
 } // namespace
 
-CommandLine readCommandLine(QStringList const & arguments)
+CommandLine readCommandLine(QStringList const & givenArguments)
 {
+    QStringList const arguments = withNumbersMarked(givenArguments);
     QCommandLineOption const databases(QStringLiteral("databases"), QString(), QStringLiteral("DIR"));
     QCommandLineOption const accessLevel(QStringLiteral("access-level"), QString(), QStringLiteral("N"));
     QCommandLineOption const json(QStringLiteral("json"));
@@ -157,7 +174,9 @@ CommandLine readCommandLine(QStringList const & arguments)
         throw usageFailure(parser.errorText().chopped(1));
 
     CommandLine line;
-    QStringList words = parser.positionalArguments();
+    QStringList words;
+    for (QString const & word : parser.positionalArguments())
+        words.append(withoutMark(word));
     if (parser.isSet(version)) {
         line.text = versionText();
         return line;
@@ -178,7 +197,7 @@ CommandLine readCommandLine(QStringList const & arguments)
     line.arguments = {words, readOwnOptions(parser, *line.command)};
     line.databaseFolders = parser.values(databases);
     if (parser.isSet(accessLevel))
-        line.accessLevel = readAccessLevel(parser.value(accessLevel));
+        line.accessLevel = readAccessLevel(withoutMark(parser.value(accessLevel)));
     line.json = parser.isSet(json);
     return line;
 }
