@@ -103,6 +103,18 @@ bool CDevicelore::CorrectDelayValueForWFSpeaker(unsigned short speakerId, QVaria
 void CDevicelore::FillObjectDef(CObjectDef & target, CDriverCacheObjectItem * item) const
 {
     quint32 const mask = static_cast<quint32>(target.mask());
+    if (mask & ObjectDefMaxValue)
+        target.setMax(item->maxValue());
+    if (mask & ObjectDefMinValue)
+        target.setMin(item->minValue());
+    if (mask & ObjectDefStep)
+        target.setStep(item->step());
+    if (mask & ObjectDefName)
+        target.setName(item->name());
+    constexpr quint32 oftenAskedAlone = ObjectDefMaxValue | ObjectDefMinValue | ObjectDefStep | ObjectDefName;
+    if ((mask & ~oftenAskedAlone) == 0)
+        return;
+
     if (mask & ObjectDefAccess)
         target.setAccess(item->access());
     if (mask & ObjectDefChannelCount)
@@ -119,12 +131,6 @@ void CDevicelore::FillObjectDef(CObjectDef & target, CDriverCacheObjectItem * it
         target.setFlags(item->flags());
     if (mask & ObjectDefFormat)
         target.setFormat(item->format());
-    if (mask & ObjectDefMaxValue)
-        target.setMax(item->maxValue());
-    if (mask & ObjectDefMinValue)
-        target.setMin(item->minValue());
-    if (mask & ObjectDefName)
-        target.setName(item->name());
     if (mask & ObjectDefObjectNumber)
         target.SetObjectNumber(item->ObjectNumber());
     if (mask & ObjectDefBoxNumber)
@@ -137,8 +143,6 @@ void CDevicelore::FillObjectDef(CObjectDef & target, CDriverCacheObjectItem * it
         target.setRecordCount(item->recordCount());
     if (mask & ObjectDefSize)
         target.setSize(item->size());
-    if (mask & ObjectDefStep)
-        target.setStep(item->step());
     if (mask & ObjectDefDisplaySubName)
         target.setDisplaySubName(item->displaySubName());
     if (mask & ObjectDefTextOffset)
