@@ -112,7 +112,8 @@ TEST(GuideExamples, PrintWhatTheGuideShows)
     for (auto match = block.globalMatch(guide); match.hasNext();)
         expected += match.next().captured(1);
     EXPECT_GT(expected.count(QLatin1Char('\n')), 20);
-    EXPECT_EQ(run(QStringLiteral("LC_ALL=C.UTF-8 guideExamples"), QDir::tempPath()).toStdString(), expected.toStdString());
+    EXPECT_EQ(run(QStringLiteral("LC_ALL=C.UTF-8 guideExamples"), QDir::tempPath()).toStdString(),
+              expected.toStdString());
 }
 
 TEST(ConsoleExamples, TheCheckSeesADifference)
