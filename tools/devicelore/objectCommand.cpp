@@ -1,6 +1,7 @@
 #include "command.h"
 #include "deviceArgument.h"
 #include "objectArgument.h"
+#include "objectText.h"
 #include "optionValue.h"
 
 #include <QJsonArray>
@@ -14,28 +15,6 @@ using namespace kestrova::Morvel::Devicelore;
 namespace kestrova::inspector {
 
 namespace {
-
-QString hexadecimal(quint32 number, int width)
-{
-    return QStringLiteral("0x") + QString::number(number, 16).rightJustified(width, QLatin1Char('0'));
-}
-
-QString rangeText(CObjectDef const & object)
-{
-    return QStringLiteral("%1 to %2, step %3")
-        .arg(numberText(object.minValue()), numberText(object.maxValue()), numberText(object.step()));
-}
-
-QString rightsText(CObjectDef const & object)
-{
-    QStringList rights;
-    if (object.isReadable())
-        rights.append(QStringLiteral("readable from level %1").arg(object.access() / 10));
-    if (object.isWriteable())
-        rights.append(QStringLiteral("writeable from level %1").arg(object.access() % 10));
-    return rights.isEmpty() ? QStringLiteral("neither readable nor writeable")
-                            : rights.join(QStringLiteral(", "));
-}
 
 QString classText(CObjectDef const & object)
 {
@@ -64,19 +43,10 @@ bool sameLimits(CObjectDef const & left, CObjectDef const & right)
            left.step() == right.step() && left.objectType() == right.objectType();
 }
 
-QString valueText(QVariant const & value)
-{
-    return value.userType() == QMetaType::Double ? numberText(value.toDouble()) : value.toString();
-}
-
 QVector<QPair<QString, QString>> fieldsOf(CObjectDef const & object)
 {
-    CObjectNumber const number(object.FullObjectNumber());
     return {{QStringLiteral("object"), object.name()},
-            {QStringLiteral("number"), QStringLiteral("%1 (box %2, object %3)")
-                                           .arg(hexadecimal(number.fullObject(), 4))
-                                           .arg(number.box())
-                                           .arg(number.objectByte())},
+            {QStringLiteral("number"), numberWithPartsText(object.FullObjectNumber())},
             {QStringLiteral("display name"), object.displayName()},
             {QStringLiteral("display sub name"), object.displaySubName()},
             {QStringLiteral("type"), typeName(object)},

@@ -1,6 +1,7 @@
 #include "command.h"
 #include "deviceArgument.h"
 #include "objectArgument.h"
+#include "objectText.h"
 #include "optionValue.h"
 
 #include <QJsonArray>
@@ -117,12 +118,6 @@ QString joined(QList<QPair<int, QString>> const & texts)
     for (QPair<int, QString> const & text : texts)
         list.append(QStringLiteral("%1 %2").arg(text.first).arg(text.second));
     return list.isEmpty() ? QStringLiteral("none") : list.join(QStringLiteral("; "));
-}
-
-QString valueText(QVariant const & value)
-{
-    bool const isReal = value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
-    return isReal ? numberText(value.toDouble()) : value.toString();
 }
 
 /// What the user wrote, as a number if it is one.
