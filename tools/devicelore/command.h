@@ -42,6 +42,7 @@ Answer databasesAnswer(Inspector & inspector, Arguments const & arguments);
 Answer devicesAnswer(Inspector & inspector, Arguments const & arguments);
 Answer deviceAnswer(Inspector & inspector, Arguments const & arguments);
 Answer modesAnswer(Inspector & inspector, Arguments const & arguments);
+Answer explainAnswer(Inspector & inspector, Arguments const & arguments);
 Answer defaultsAnswer(Inspector & inspector, Arguments const & arguments);
 Answer objectAnswer(Inspector & inspector, Arguments const & arguments);
 Answer objectsAnswer(Inspector & inspector, Arguments const & arguments);

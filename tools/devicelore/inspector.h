@@ -16,7 +16,9 @@ namespace kestrova::inspector {
 class InspectorCache : public Morvel::Devicelore::CDriverCache {
 public:
     using CDriverCache::connectionName;
+    using CDriverCache::createDriverCacheObjectItem;
     using CDriverCache::GetDriverObject;
+    using CDriverCache::objectFromDb;
 
     /// Every question for an object comes by here, those of the library itself too.
     Morvel::Devicelore::GetItemReturnValue GetDriverObject(Morvel::Devicelore::CDriverCacheObjectItem *& item,
@@ -27,6 +29,21 @@ public:
     }
 
     Morvel::Devicelore::CDriverCacheGuidItemList & descriptions() { return *guidItems; }
+
+    /// The GUID whose description names the model of a GUID's type; null when no description of it is
+    /// visible.
+    Morvel::Devicelore::CDeviceGuid namingGuid(Morvel::Devicelore::CDeviceGuid const & guid) const
+    {
+        // The member is protected; only a derived class may take its address.
+        struct Catalogue : Morvel::Devicelore::CDriverCacheGuidItemList {
+            static auto baseGuidsOf() { return &Catalogue::baseGuids; }
+        };
+
+        return (guidItems.get()->*Catalogue::baseGuidsOf()).value(static_cast<unsigned char>(guid.value()));
+    }
+
+    /// The names of the open databases, in the order in which they are asked.
+    QStringList const & databases() const { return connectionNames; }
 
     /// A filter that was named before; null when the speaker has none.
     Morvel::Devicelore::CDriverCacheFilterItem *

@@ -47,6 +47,16 @@ std::vector<Command> const & kestrova::inspector::commands()
          "the one asked for (exact), else the newest that the access level lets through (newest visible), or "
          "none.\n",
          deviceAnswer},
+        {"explain",
+         {QStringLiteral("GUID|MODEL"), QStringLiteral("[PROPERTY]")},
+         "why an application gets what it gets",
+         "Tells the whole story of an answer: which description stands for the device and from which "
+         "database, or of a\n"
+         "property, by its name or its number, which row answers, how it stands there, what becomes of it on "
+         "the way, which\n"
+         "level refuses it, and which rows come close when none answers.\n",
+         explainAnswer,
+         channelOptions()},
         {"modes",
          {},
          "the output modes: which channels drive a speaker together",
