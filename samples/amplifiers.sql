@@ -277,7 +277,7 @@ INSERT INTO Objects (id, Name, BoxNumber, ObjectNumber, Format, Min, Max, Step, 
     -- On purpose: eight bytes. Conversions hand over four, so these two are never converted.
     (607, 'Service_Energy',      6,  7, '%16I64u Wh',    0, 9007199254740991,    1, 8, 0x01, 11, '0',       0, 'Energy used'),
     (608, 'Service_Latency',     6,  8, '%8.2Lf µs',     0,            10000, 0.01, 8, 0x01, 11, '0',       0, 'Latency'),
-    -- Hexadecimal and writeable, for level 3 only.
+    -- Hexadecimal and writeable, for level 3 only. Its values are not checked against the range.
     (609, 'Service_AccessCode',  6,  9, '%04x',          0,            32767,    1, 2, 0x03, 33, '0',       0, 'Access code'),
     -- On purpose: the default is no number, and zero is out of range: the minimum stands in.
     (610, 'Service_BiasOffset',  6, 10, '%4D mV',     -100,              -20,    1, 1, 0x03, 22, 'factory', 0, 'Bias offset');

@@ -151,6 +151,7 @@ ORDER BY BoxNumber, ObjectNumber;
 
 INSERT INTO Objects (id, Name, BoxNumber, ObjectNumber, Format, Min, Max, Step, Size, Flags, Access, DefaultValue, TextOffset, Description) VALUES
     (2001, 'Panel_Brightness', 20, 1, '%3U%%', 0,   100, 5,  1, 0x03, 33, '50',    0, 'Brightness'),
+    -- Hexadecimal: its values are not checked against the range.
     (2002, 'Panel_PinCode',    20, 2, '%04x',  0, 32767, 1,  2, 0x03, 33, '4660',  0, 'PIN code'),
     (2003, 'Panel_Greeting',   20, 3, '%1s',   0,    31, 1, 32, 0x03, 33, 'Hello', 0, 'Greeting');
 
@@ -197,6 +198,8 @@ CREATE TABLE SpeakerClasses (
 INSERT INTO SpeakerClasses (Class, Name, Type, Ways, WayNames) VALUES
     ( 0, 'Point source', 'Passive', 1, 'Full'),
     ( 2, 'Bass speaker', 'Passive', 1, 'Sub'),
+    -- On purpose: 11 and 12 are none of the numbers for single channels, so their speakers are offered to
+    -- pairs only, although they have one way.
     (11, 'Built-in',     'Active',  1, 'Full'),
     -- In time for 46 below, too late for 41 in amplifiers.db3.
     (12, 'Ceiling',      'Passive', 1, 'Full');

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/answer.h"
+#include "common/toolInterface.h"
 
 #include <QStringList>
 
@@ -10,23 +11,19 @@ namespace kestrova::authoring {
 
 using namespace tools;
 
-struct CommandLine;
-
 /// One command of the tool. A new command is a function and a row in commands().
 struct Command {
-    char const * name;
-    QStringList parameters;   ///< names of its arguments, all needed
-    QStringList options;      ///< that it takes besides --help
-    char const * summary;     ///< one line for the list of commands
-    char const * description; ///< for `devicelore-db COMMAND --help`
-    Answer (*run)(CommandLine const & line);
+    CommandInterface interface;
+    Answer (*run)(ParsedArguments const & arguments);
 };
 
 std::vector<Command> const & commands();
 
-Answer newDatabase(CommandLine const & line);
-Answer encrypt(CommandLine const & line);
-Answer decrypt(CommandLine const & line);
-Answer info(CommandLine const & line);
+Answer newDatabase(ParsedArguments const & arguments);
+Answer encrypt(ParsedArguments const & arguments);
+Answer decrypt(ParsedArguments const & arguments);
+Answer info(ParsedArguments const & arguments);
+Answer check(ParsedArguments const & arguments);
+Answer diff(ParsedArguments const & arguments);
 
 } // namespace kestrova::authoring

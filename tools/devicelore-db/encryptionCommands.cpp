@@ -1,5 +1,4 @@
 #include "command.h"
-#include "commandLine.h"
 #include "longWork.h"
 #include "outputFile.h"
 
@@ -7,6 +6,8 @@
 #include "sqlcipher/databaseKey.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace kestrova::authoring {
 
@@ -21,23 +22,39 @@ void checkFiles(QString const & input, QString const & output, bool force)
     checkOutput(output, force);
 }
 
+sqlcipher::PageFormat const & formatOf(ParsedArguments const & arguments)
+{
+    if (!arguments.isSet("format"))
+        return sqlcipher::version4;
+    QString const version = arguments.value("format");
+    auto const found = std::find_if(
+        sqlcipher::pageFormats.begin(), sqlcipher::pageFormats.end(),
+        [&](sqlcipher::PageFormat const & format) { return version == QString::number(format.version); });
+    if (found == sqlcipher::pageFormats.end())
+        throw Failure(
+            ExitUsage,
+            QStringLiteral("--format takes 4 or 3, not '%1'; see devicelore-db --help").arg(version));
+    return *found;
+}
+
 } // namespace
 
-Answer encrypt(CommandLine const & line)
+Answer encrypt(ParsedArguments const & arguments)
 {
-    QString const & plain = line.arguments.at(0);
-    QString const & encrypted = line.arguments.at(1);
-    checkFiles(plain, encrypted, line.force);
+    QString const & plain = arguments.words.at(0);
+    QString const & encrypted = arguments.words.at(1);
+    sqlcipher::PageFormat const & format = formatOf(arguments);
+    checkFiles(plain, encrypted, arguments.isSet("force"));
     LongWork work(QStringLiteral("encrypting"));
-    sqlcipher::encryptDatabase(plain, encrypted, *line.format, sqlcipher::databaseKey, work.progress());
+    sqlcipher::encryptDatabase(plain, encrypted, format, sqlcipher::databaseKey, work.progress());
     return {};
 }
 
-Answer decrypt(CommandLine const & line)
+Answer decrypt(ParsedArguments const & arguments)
 {
-    QString const & encrypted = line.arguments.at(0);
-    QString const & plain = line.arguments.at(1);
-    checkFiles(encrypted, plain, line.force);
+    QString const & encrypted = arguments.words.at(0);
+    QString const & plain = arguments.words.at(1);
+    checkFiles(encrypted, plain, arguments.isSet("force"));
     LongWork work(QStringLiteral("decrypting"));
     sqlcipher::decryptDatabase(encrypted, plain, sqlcipher::databaseKey, work.progress());
     return {};

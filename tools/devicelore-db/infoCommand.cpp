@@ -1,5 +1,4 @@
 #include "command.h"
-#include "commandLine.h"
 #include "databaseContent.h"
 #include "longWork.h"
 
@@ -144,9 +143,9 @@ QJsonObject asJson(FileInfo const & file)
 
 } // namespace
 
-Answer info(CommandLine const & line)
+Answer info(ParsedArguments const & arguments)
 {
-    FileInfo const file = examine(line.arguments.first());
+    FileInfo const file = examine(arguments.words.first());
     Answer answer;
     answer.text = factsText(file);
     if (file.content.pageSize > 0)

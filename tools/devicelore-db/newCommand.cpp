@@ -1,5 +1,4 @@
 #include "command.h"
-#include "commandLine.h"
 #include "outputFile.h"
 #include "sqlText.h"
 
@@ -39,12 +38,14 @@ QByteArray readSchema()
 
 } // namespace
 
-Answer newDatabase(CommandLine const & line)
+Answer newDatabase(ParsedArguments const & arguments)
 {
-    QString const & path = line.arguments.first();
-    checkOutput(path, line.force);
-    QByteArray const sql = line.sqlFile ? readSqlFile(*line.sqlFile) : readSchema();
-    writeFile(path, databaseFromSql(sql, line.sqlFile.value_or(QStringLiteral("schema.sql"))));
+    QString const & path = arguments.words.first();
+    checkOutput(path, arguments.isSet("force"));
+    if (arguments.isSet("sql"))
+        writeFile(path, databaseFromSql(readSqlFile(arguments.value("sql")), arguments.value("sql")));
+    else
+        writeFile(path, databaseFromSql(readSchema(), QStringLiteral("schema.sql")));
     return {};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/answer.h"
+#include "common/toolInterface.h"
 
 #include <QHash>
 #include <QStringList>
@@ -13,12 +14,7 @@ using namespace tools;
 
 class Inspector;
 
-/// An option of one command; options that all commands have are read by the command line itself.
-struct CommandOption {
-    char const * name;    ///< without the dashes
-    char const * value;   ///< name of its value; null for an option without one
-    char const * summary; ///< one line for `devicelore COMMAND --help`
-};
+using CommandOption = Option;
 
 /// What the user gave to a command.
 struct Arguments {

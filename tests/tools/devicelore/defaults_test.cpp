@@ -212,6 +212,6 @@ TEST_F(DefaultsTool, ExplainsTheOptionsOfACommandThere)
     EXPECT_TRUE(tool.run("defaults --help")
                     .output.contains(QLatin1String(
                         "\nOptions of this command:\n"
-                        "  --mode M            the output mode, -1 (no mode) to 8; 0 if not given\n")));
+                        "  --mode M                 the output mode, -1 (no mode) to 8; 0 if not given\n")));
     EXPECT_FALSE(tool.run("modes --help").output.contains(QLatin1String("Options of this command")));
 }

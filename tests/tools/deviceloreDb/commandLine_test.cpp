@@ -34,10 +34,10 @@ TEST_F(DatabaseTool, RefusesWrongUse)
         {"encrypt a", "usage: devicelore-db encrypt PLAIN OUT; see devicelore-db --help"},
         {"decrypt a b c", "usage: devicelore-db decrypt IN PLAIN; see devicelore-db --help"},
         {"info --nonsense a", "Unknown option 'nonsense'; see devicelore-db --help"},
-        {"info --force a", "'info' takes no --force; see devicelore-db --help"},
-        {"new --json a", "'new' takes no --json; see devicelore-db --help"},
-        {"decrypt --format 4 a b", "'decrypt' takes no --format; see devicelore-db --help"},
-        {"encrypt --sql a b c", "'encrypt' takes no --sql; see devicelore-db --help"},
+        {"info --force a", "--force is no option of 'info'; see devicelore-db --help"},
+        {"new --json a", "--json is no option of 'new'; see devicelore-db --help"},
+        {"decrypt --format 4 a b", "--format is no option of 'decrypt'; see devicelore-db --help"},
+        {"encrypt --sql a b c", "--sql is no option of 'encrypt'; see devicelore-db --help"},
         {"new a --sql", "Missing value after '--sql'; see devicelore-db --help"},
         {"encrypt --format 2 a b", "--format takes 4 or 3, not '2'; see devicelore-db --help"},
         {"encrypt --format 04 a b", "--format takes 4 or 3, not '04'; see devicelore-db --help"},
@@ -66,6 +66,8 @@ TEST_F(DatabaseTool, ExplainsItselfAndEachCommand)
         {"encrypt --help", "help-encrypt.txt"},
         {"decrypt --help", "help-decrypt.txt"},
         {"info --help", "help-info.txt"},
+        {"check --help", "help-check.txt"},
+        {"diff --help", "help-diff.txt"},
         {"info a b c -h", "help-info.txt"},
     };
     for (Row const & row : rows) {

@@ -1,0 +1,112 @@
+#include "check/check.h"
+
+#include <QCryptographicHash>
+#include <QSet>
+#include <QSqlError>
+#include <QSqlQuery>
+
+using namespace kestrova::Morvel::Devicelore;
+
+namespace kestrova::authoring {
+
+namespace {
+
+void checkNames(Inspected const & inspected, Table const & groups, int row, QStringList const & names)
+{
+    QString const group = groups.text(row, "FilterName");
+    QSet<QString> seen;
+    for (QString const & name : names) {
+        if (seen.contains(name)) {
+            inspected.report("group-twice", groups, row, "Expression", group,
+                             QStringLiteral("it holds \"%1\" twice").arg(name));
+            continue;
+        }
+        seen.insert(name);
+        if (!inspected.set.hasObject(name))
+            inspected.report("group-name", groups, row, "Expression", group,
+                             QStringLiteral("no object is named \"%1\"").arg(name));
+    }
+}
+
+void checkGroup(Inspected const & inspected, Table const & groups, int row)
+{
+    QString const group = groups.text(row, "FilterName");
+    QString const expression = groups.text(row, "Expression");
+    if (groups.column(QStringLiteral("Access")) >= 0 && (groups.number(row, "Access") & 0xFF) == 0)
+        inspected.report("group-level", groups, row, "Access", group, QStringLiteral("Access is 0"));
+    QSqlQuery query(inspected.database.connection);
+    query.setForwardOnly(true);
+    // Qt complains of an empty statement itself.
+    if (expression.trimmed().isEmpty() || !query.exec(expression)) {
+        inspected.report("group-faulty", groups, row, "Expression", group,
+                         expression.trimmed().isEmpty() ? QStringLiteral("there is no statement")
+                                                        : query.lastError().databaseText());
+        return;
+    }
+    QStringList names;
+    while (query.next())
+        names.append(query.value(0).toString());
+    checkNames(inspected, groups, row, names);
+}
+
+} // namespace
+
+void checkGroups(Inspected const & inspected)
+{
+    Table const & groups = inspected.database.table("DevicePropertyFilter");
+    for (int row = 0; row < groups.rowCount(); ++row)
+        checkGroup(inspected, groups, row);
+}
+
+// --- The data of the speaker DSP database ---
+
+namespace {
+
+void checkDspRow(Inspected const & inspected, Table const & data, int row)
+{
+    QString const guid = data.text(row, "GUID");
+    int const speaker = data.number(row, "SpeakerId") & 0xFFFF;
+    QString const subject = QStringLiteral("%1, speaker %2").arg(guid).arg(speaker);
+    if (!isGuidText(guid))
+        inspected.report("guid-text", data, row, "GUID", subject,
+                         QStringLiteral("\"%1\" is no GUID in upper case").arg(guid));
+    else if (inspected.set.cache().connectionName(CDeviceGuid(guid)).isEmpty())
+        inspected.report("dsp-unknown-device", data, row, "GUID", subject,
+                         QStringLiteral("no database describes %1").arg(guid));
+    if (!inspected.set.hasSpeaker(speaker))
+        inspected.report("dsp-unknown-speaker", data, row, "SpeakerId", subject,
+                         QStringLiteral("no database defines the speaker %1").arg(speaker));
+
+    for (char const * const column :
+         {"DeviceType", "SpeakerName", "SpeakerVersion", "BlobData", "BlobDataMD5"}) {
+        if (data.value(row, column).toByteArray().isEmpty())
+            inspected.report("dsp-incomplete", data, row, column, subject,
+                             QStringLiteral("%1 is empty").arg(QLatin1String(column)));
+    }
+    QByteArray const bytes = data.value(row, "BlobData").toByteArray();
+    QString const md5 = QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
+    QString const stated = data.text(row, "BlobDataMD5");
+    if (!bytes.isEmpty() && !stated.isEmpty() && stated.compare(md5, Qt::CaseInsensitive) != 0)
+        inspected.report("dsp-md5", data, row, "BlobDataMD5", subject,
+                         QStringLiteral("the MD5 of the data is %1").arg(md5));
+}
+
+} // namespace
+
+void checkDspData(Inspected const & inspected)
+{
+    Table const & data = inspected.database.table("SpeakerData");
+    QSet<QString> seen;
+    for (int row = 0; row < data.rowCount(); ++row) {
+        checkDspRow(inspected, data, row);
+        QString const key = data.text(row, "GUID") + QLatin1Char('/') + data.text(row, "SpeakerId");
+        if (seen.contains(key))
+            inspected.report(
+                "dsp-twice", data, row, "SpeakerId",
+                QStringLiteral("%1, speaker %2").arg(data.text(row, "GUID"), data.text(row, "SpeakerId")),
+                QStringLiteral("it stands in an earlier row already"));
+        seen.insert(key);
+    }
+}
+
+} // namespace kestrova::authoring

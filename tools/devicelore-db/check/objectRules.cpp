@@ -1,0 +1,311 @@
+#include "check/check.h"
+#include "check/objectFormat.h"
+
+#include "core/roundOnStep.h"
+#include "records/objectDef.h"
+
+#include <QSet>
+#include <QSqlQuery>
+#include <QSqlRecord>
+
+#include <cmath>
+
+using namespace kestrova::Morvel::Devicelore;
+
+namespace kestrova::authoring {
+
+namespace {
+
+constexpr int highestBox = 31;
+constexpr int highestObject = 255;
+
+QString textOf(double number)
+{
+    return QString::number(number, 'g', 12);
+}
+
+/// An object as the library reads it, and where it stands.
+struct ObjectRow {
+    Inspected const & inspected;
+    Table const & table;
+    int row;
+    CObjectDef object;
+
+    void report(char const * rule, char const * column, QString const & message) const
+    {
+        inspected.report(rule, table, row, column, subjectOf(table, row), message);
+    }
+
+    bool isNumber() const
+    {
+        return object.objectType() == CObjectDef::ObjectTypeNumber ||
+               object.objectType() == CObjectDef::ObjectTypeToggle;
+    }
+};
+
+void checkAddress(ObjectRow const & object)
+{
+    bool const hasBoxes = object.table.columns.contains(QStringLiteral("BoxNumber"));
+    int const box = object.object.BoxNumber();
+    int const number = object.object.ObjectNumber();
+    if (box > highestBox)
+        object.report("object-address", hasBoxes ? "BoxNumber" : "ObjectNumber",
+                      QStringLiteral("the box is %1; 0 to 31 fit").arg(box));
+    if (number > highestObject)
+        object.report("object-address", "ObjectNumber",
+                      QStringLiteral("the number is %1; 0 to 255 fit").arg(number));
+}
+
+void checkRange(ObjectRow const & row)
+{
+    CObjectDef const & object = row.object;
+    double const range = object.maxValue() - object.minValue();
+    if (range < 0)
+        row.report("range-inverted", "Min",
+                   QStringLiteral("the range is %1 to %2")
+                       .arg(textOf(object.minValue()), textOf(object.maxValue())));
+    if (object.step() <= 0)
+        row.report("step-not-positive", "Step", QStringLiteral("the step is %1").arg(textOf(object.step())));
+    else if (range >= 0 && object.step() > range)
+        row.report("step-too-large", "Step",
+                   QStringLiteral("the step is %1, and the range %2 to %3")
+                       .arg(textOf(object.step()), textOf(object.minValue()), textOf(object.maxValue())));
+}
+
+void checkDefault(ObjectRow const & row)
+{
+    CObjectDef const & object = row.object;
+    QString const text = object.defaultValue().toString();
+    if (text.isEmpty()) {
+        row.report("default-missing", "DefaultValue", QStringLiteral("there is no default value"));
+        return;
+    }
+    bool isNumber = false;
+    double const value = object.defaultValue().toDouble(&isNumber);
+    if (!isNumber)
+        row.report("default-not-a-number", "DefaultValue", QStringLiteral("\"%1\" is no number").arg(text));
+    else if (value < object.minValue() || value > object.maxValue())
+        row.report("default-out-of-range", "DefaultValue",
+                   QStringLiteral("%1 is not between %2 and %3")
+                       .arg(text, textOf(object.minValue()), textOf(object.maxValue())));
+    else if (roundOnStep(value, object.step()) != value)
+        row.report("default-off-grid", "DefaultValue",
+                   QStringLiteral("%1 is no multiple of %2").arg(text, textOf(object.step())));
+}
+
+void checkUnchecked(ObjectRow const & row)
+{
+    if (row.object.objectType() == CObjectDef::ObjectTypeHexDump)
+        row.report("values-unchecked", "Format", QStringLiteral("the object is a dump of bytes"));
+    if (row.object.objectType() == CObjectDef::ObjectTypeHex && row.object.isWriteable())
+        row.report("values-unchecked", "Format", QStringLiteral("the object is hexadecimal"));
+}
+
+/// The objects as the library's own reader makes them of their rows.
+QVector<CObjectDef> readObjects(Inspected const & inspected, Table const & table)
+{
+    QVector<CObjectDef> objects;
+    QSqlQuery query(inspected.database.connection);
+    query.setForwardOnly(true);
+    if (table.columns.isEmpty() || !query.exec(QStringLiteral("SELECT * FROM Objects")))
+        return objects;
+    auto const everything = QFlags<ObjectDefMask>(QFlag(~0U));
+    while (query.next()) {
+        CObjectDef object;
+        object.setMask(everything);
+        inspected.set.cache().takeQuery(query, everything, table.columns, object);
+        object.determineObjectType();
+        objects.append(object);
+    }
+    return objects;
+}
+
+} // namespace
+
+void checkObjects(Inspected const & inspected)
+{
+    Table const & table = inspected.database.table("Objects");
+    QVector<CObjectDef> const objects = readObjects(inspected, table);
+    for (int row = 0; row < objects.size() && row < table.rowCount(); ++row) {
+        ObjectRow const object{inspected, table, row, objects.at(row)};
+        checkAddress(object);
+        if (object.isNumber()) {
+            checkRange(object);
+            checkDefault(object);
+        }
+        checkUnchecked(object);
+        for (FormatFault const & fault : formatFaults(object.object, inspected.set.library()))
+            object.report(fault.rule, fault.column, fault.message);
+    }
+}
+
+// --- Which device has which objects ---
+
+namespace {
+
+struct Link {
+    QString guid;
+    int object; ///< its row
+};
+
+/// A pair of rows of Objects of which a device sees the first only.
+struct Shadow {
+    QStringList guids; ///< of the devices
+};
+
+QString devicesText(QStringList const & guids)
+{
+    if (guids.size() == 1)
+        return guids.first();
+    return QStringLiteral("%1 and %2 more").arg(guids.first(), QString::number(guids.size() - 1));
+}
+
+/// Reports objects that have a name or a number in common with an earlier one of the same device.
+void reportShadows(Inspected const & inspected, Table const & objects,
+                   QHash<QString, QVector<int>> const & objectsOfDevice, char const * rule,
+                   char const * column, QString (*keyOf)(Table const & objects, int row))
+{
+    QMap<QPair<int, int>, Shadow> shadows; // by the rows of the hidden object and of the one before it
+    QStringList guids = objectsOfDevice.keys();
+    guids.sort();
+    for (QString const & guid : guids) {
+        QHash<QString, int> firstRow;
+        for (int const row : objectsOfDevice.value(guid)) {
+            QString const key = keyOf(objects, row);
+            auto const first = firstRow.constFind(key);
+            if (first == firstRow.constEnd())
+                firstRow.insert(key, row);
+            else if (*first != row)
+                shadows[{qMax(row, *first), qMin(row, *first)}].guids.append(guid);
+        }
+    }
+    for (auto shadow = shadows.constBegin(); shadow != shadows.constEnd(); ++shadow)
+        inspected.report(rule, objects, shadow.key().first, column, subjectOf(objects, shadow.key().first),
+                         QStringLiteral("%1 has it too, for %2")
+                             .arg(subjectOf(objects, shadow.key().second), devicesText(shadow->guids)));
+}
+
+QString nameOf(Table const & objects, int row)
+{
+    return objects.text(row, "Name");
+}
+
+QString addressOf(Table const & objects, int row)
+{
+    return QStringLiteral("%1/%2").arg(objects.text(row, "BoxNumber"), objects.text(row, "ObjectNumber"));
+}
+
+QHash<qint64, int> rowsById(Table const & objects)
+{
+    QHash<qint64, int> rows;
+    for (int row = 0; row < objects.rowCount(); ++row)
+        rows.insert(objects.value(row, "id").toLongLong(), row);
+    return rows;
+}
+
+} // namespace
+
+void checkLinks(Inspected const & inspected)
+{
+    Table const & objects = inspected.database.table("Objects");
+    Table const & links = inspected.database.table("guidsandobjects");
+    QHash<qint64, int> const rowOfId = rowsById(objects);
+    QHash<QString, QVector<int>> objectsOfDevice;
+    QSet<QPair<QString, int>> seen;
+    QSet<int> linkedObjects;
+    QSet<QString> reportedGuids;
+    for (int row = 0; row < links.rowCount(); ++row) {
+        QString const guid = links.text(row, "guid");
+        qint64 const id = links.value(row, "objectid").toLongLong();
+        QString const subject = QStringLiteral("%1 - %2").arg(guid, QString::number(id));
+        QString const owner = inspected.set.cache().connectionName(CDeviceGuid(guid));
+        bool const isAsked = isGuidText(guid) && owner == inspected.database.file;
+        if (!isAsked && !reportedGuids.contains(guid)) {
+            reportedGuids.insert(guid); // one finding a GUID, not one a link
+            inspected.report("link-unknown-device", links, row, "guid", guid,
+                             owner.isEmpty() || !isGuidText(guid)
+                                 ? QStringLiteral("no device is asked for as \"%1\"").arg(guid)
+                                 : QStringLiteral("%1 is described by %2").arg(guid, owner));
+        }
+        auto const object = rowOfId.constFind(id);
+        if (object == rowOfId.constEnd()) {
+            inspected.report("link-missing-object", links, row, "objectid", subject,
+                             QStringLiteral("there is no object with the id %1").arg(id));
+            continue;
+        }
+        linkedObjects.insert(*object);
+        if (seen.contains({guid, *object})) {
+            inspected.report("link-twice", links, row, "objectid", subject,
+                             QStringLiteral("%1 has %2 already").arg(guid, subjectOf(objects, *object)));
+            continue;
+        }
+        seen.insert({guid, *object});
+        objectsOfDevice[guid].append(*object);
+    }
+    for (int row = 0; row < objects.rowCount(); ++row) {
+        if (!linkedObjects.contains(row))
+            inspected.report("object-unlinked", objects, row, "id", subjectOf(objects, row),
+                             QStringLiteral("guidsandobjects does not have %1").arg(subjectOf(objects, row)));
+    }
+    reportShadows(inspected, objects, objectsOfDevice, "object-name-twice", "Name", nameOf);
+    reportShadows(inspected, objects, objectsOfDevice, "object-number-twice", "ObjectNumber", addressOf);
+}
+
+// --- Object classes ---
+
+namespace {
+
+bool isOcaClass(QString const & text)
+{
+    QStringList const parts = text.split(QLatin1Char('.'));
+    return parts.size() <= 16 && std::all_of(parts.begin(), parts.end(), [](QString const & part) {
+               bool isNumber = false;
+               part.toUShort(&isNumber, 10);
+               return isNumber;
+           });
+}
+
+void checkObjectClass(Inspected const & inspected, Table const & classes, int row)
+{
+    int const id = classes.number(row, "Id");
+    QString const subject = QStringLiteral("class %1").arg(id);
+    if (id == 0) {
+        inspected.report("class-zero", classes, row, "Id", subject,
+                         QStringLiteral("the class has the number 0"));
+        return;
+    }
+    if (id < 0 || id > 255)
+        inspected.report("class-cut", classes, row, "Id", subject,
+                         QStringLiteral("%1 is read as %2").arg(id).arg(id & 0xFF));
+    QString const ocaClass = classes.text(row, "OcaClassId");
+    if (!isOcaClass(ocaClass))
+        inspected.report("oca-class", classes, row, "OcaClassId", subject,
+                         QStringLiteral("\"%1\" is no OCA class").arg(ocaClass));
+    QStringList const content{ocaClass, classes.text(row, "Description")};
+    auto const earlier = inspected.seen.objectClasses.constFind(id);
+    if (earlier == inspected.seen.objectClasses.constEnd())
+        inspected.seen.objectClasses.insert(
+            id, {{inspected.database.file, classes.name, classes.rowNumber(row), {}, subject}, content});
+    else if (earlier->content != content)
+        inspected.report("class-twice", classes, row, "Id", subject,
+                         QStringLiteral("it is %1 here, and %2 in %3, which counts")
+                             .arg(ocaClass, earlier->content.first(), earlier->place.file));
+}
+
+} // namespace
+
+void checkObjectClasses(Inspected const & inspected)
+{
+    Table const & classes = inspected.database.table("ObjectClasses");
+    for (int row = 0; row < classes.rowCount(); ++row)
+        checkObjectClass(inspected, classes, row);
+    Table const & objects = inspected.database.table("Objects");
+    for (int row = 0; row < objects.rowCount(); ++row) {
+        int const id = objects.number(row, "ClassId");
+        if (id != 0 && !inspected.set.cache().hasObjectClass(static_cast<unsigned short>(id)))
+            inspected.report("class-missing", objects, row, "ClassId", subjectOf(objects, row),
+                             QStringLiteral("there is no class %1").arg(id));
+    }
+}
+
+} // namespace kestrova::authoring

@@ -1,0 +1,226 @@
+#include "check/check.h"
+#include "check/columns.h"
+
+#include <QSqlQuery>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace kestrova::authoring {
+
+namespace {
+
+Place placeOf(Inspected const & inspected, Table const & table, QString const & column = {})
+{
+    return {inspected.database.file, table.name, 0, column, {}};
+}
+
+void checkTable(Inspected const & inspected, Table const & table)
+{
+    if (table.spelledName != table.name)
+        inspected.findings.add("name-case", placeOf(inspected, table), table.spelledName,
+                               QStringLiteral("the table is spelled \"%1\" here").arg(table.spelledName));
+    if (!table.trouble.isEmpty())
+        inspected.findings.add("damaged-table", placeOf(inspected, table), {}, table.trouble);
+}
+
+void reportMissing(Inspected const & inspected, Table const & table, KnownColumn const & known)
+{
+    QString const name = QLatin1String(known.name);
+    if (known.need == Need::Statement)
+        inspected.findings.add("column-missing", placeOf(inspected, table, name), {},
+                               QStringLiteral("there is no column %1").arg(name));
+    else if (known.need == Need::Row)
+        inspected.findings.add("object-column-missing", placeOf(inspected, table, name), {},
+                               QStringLiteral("there is no column %1").arg(name));
+}
+
+void checkColumn(Inspected const & inspected, Table const & table, KnownColumn const & known)
+{
+    QString const name = QLatin1String(known.name);
+    int const position = table.column(name);
+    if (position < 0) {
+        reportMissing(inspected, table, known);
+        return;
+    }
+    QString const & spelled = table.columns.at(position);
+    if (spelled == name)
+        return;
+    bool const isCompared = known.need == Need::Row || known.need == Need::Optional;
+    inspected.findings.add(isCompared ? "column-case" : "name-case", placeOf(inspected, table, name), spelled,
+                           QStringLiteral("the column %1 is spelled \"%2\" here").arg(name, spelled));
+}
+
+void checkLanguages(Inspected const & inspected)
+{
+    Table const & texts = inspected.database.table("TextsObjectValues");
+    QString const firstLanguage = QStringLiteral("TextShort_en_US");
+    if (texts.isPresent() && texts.trouble.isEmpty() && texts.column(firstLanguage) < 0)
+        inspected.findings.add("texts-language", placeOf(inspected, texts, firstLanguage), {},
+                               QStringLiteral("there is no column TextShort_en_US"));
+}
+
+QVector<QVariant> columnOf(Inspected const & inspected, QString const & statement, int column)
+{
+    QSqlQuery query(inspected.database.connection);
+    query.setForwardOnly(true);
+    QVector<QVariant> values;
+    if (!query.exec(statement))
+        return values;
+    while (query.next())
+        values.append(query.value(column));
+    return values;
+}
+
+QString quoted(QString name)
+{
+    return QStringLiteral("\"%1\"").arg(name.replace(QLatin1Char('"'), QLatin1String("\"\"")));
+}
+
+QStringList leadingColumns(Inspected const & inspected, Table const & table)
+{
+    QStringList columns;
+    QString const indexes = QStringLiteral("PRAGMA index_list(%1)").arg(quoted(table.name));
+    for (QVariant const & index : columnOf(inspected, indexes, 1)) {
+        QString const statement = QStringLiteral("PRAGMA index_info(%1)").arg(quoted(index.toString()));
+        columns.append(columnOf(inspected, statement, 2).value(0).toString());
+    }
+    return columns;
+}
+
+bool hasIndex(Inspected const & inspected, Table const & table, KnownIndex const & known)
+{
+    QStringList const leading = leadingColumns(inspected, table);
+    return std::any_of(known.columns.begin(), known.columns.end(), [&](char const * column) {
+        return leading.contains(QLatin1String(column), Qt::CaseInsensitive);
+    });
+}
+
+void checkIndexes(Inspected const & inspected)
+{
+    for (KnownIndex const & known : knownIndexes()) {
+        Table const & table = inspected.database.table(known.table);
+        if (table.rowCount() > 0 && !hasIndex(inspected, table, known))
+            inspected.findings.add("index-missing", placeOf(inspected, table), {},
+                                   QLatin1String(known.statement));
+    }
+}
+
+void checkStatistics(Inspected const & inspected)
+{
+    auto const & tables = inspected.database.tables;
+    bool const isEmpty =
+        std::all_of(tables.begin(), tables.end(), [](Table const & table) { return table.rowCount() == 0; });
+    QString const statement = QStringLiteral("SELECT 1 FROM sqlite_stat1 LIMIT 1");
+    if (!isEmpty && columnOf(inspected, statement, 0).isEmpty())
+        inspected.findings.add("statistics-missing", {inspected.database.file, {}, 0, {}, {}}, {},
+                               QStringLiteral("ANALYZE has not been run"));
+}
+
+// --- Values ---
+
+struct Bounds {
+    double lowest;
+    double highest;
+};
+
+Bounds boundsOf(Reading reading)
+{
+    switch (reading) {
+    case Reading::Unsigned8:
+        return {0, 255};
+    case Reading::Unsigned16:
+        return {0, 65535};
+    case Reading::Unsigned32:
+        return {0, 4294967295.0};
+    case Reading::Int:
+    case Reading::FilterNumber:
+        return {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()};
+    default:
+        return {-std::numeric_limits<double>::max(), std::numeric_limits<double>::max()};
+    }
+}
+
+bool isDeliberatelyNoFilter(Reading reading, QVariant const & value)
+{
+    return reading == Reading::FilterNumber && value.toString() == QLatin1String("---");
+}
+
+/// The rule that a value breaks; null when it breaks none.
+char const * brokenRule(QVariant const & value, KnownColumn const & known)
+{
+    if (value.isNull())
+        return "null-value";
+    bool isNumber = false;
+    double const number = value.toDouble(&isNumber);
+    if (!isNumber || value.userType() == QMetaType::QByteArray)
+        return "not-a-number";
+    Bounds const bounds = boundsOf(known.reading);
+    if (number < bounds.lowest || number > bounds.highest)
+        return "number-cut";
+    if (known.reading != Reading::Real && number != std::floor(number)) {
+        bool const isLimitOfFilter = QLatin1String(known.table) == QLatin1String("Filters");
+        return isLimitOfFilter ? "filter-fraction" : "number-fraction";
+    }
+    return nullptr;
+}
+
+QString messageOf(QVariant const & value, KnownColumn const & known)
+{
+    if (value.isNull())
+        return QStringLiteral("%1 is NULL").arg(QLatin1String(known.name));
+    QString const is = QStringLiteral("%1 is %2").arg(QLatin1String(known.name), shownValue(value));
+    switch (known.reading) {
+    case Reading::Unsigned8:
+        return QStringLiteral("%1; 0 to 255 fit").arg(is);
+    case Reading::Unsigned16:
+        return QStringLiteral("%1; 0 to 65535 fit").arg(is);
+    default:
+        return is;
+    }
+}
+
+void checkColumnValues(Inspected const & inspected, Table const & table, KnownColumn const & known)
+{
+    int const column = table.column(QLatin1String(known.name));
+    if (column < 0)
+        return;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        QVariant const & value = table.value(row, column);
+        if (isDeliberatelyNoFilter(known.reading, value))
+            continue;
+        if (char const * const rule = brokenRule(value, known))
+            inspected.report(rule, table, row, known.name, subjectOf(table, row), messageOf(value, known));
+    }
+}
+
+} // namespace
+
+void checkSchema(Inspected const & inspected)
+{
+    QStringList checked;
+    for (KnownColumn const & known : knownColumns()) {
+        Table const & table = inspected.database.table(known.table);
+        if (!table.isPresent())
+            continue;
+        if (!checked.contains(table.name))
+            checkTable(inspected, table);
+        checked.append(table.name);
+        if (!table.columns.isEmpty())
+            checkColumn(inspected, table, known);
+    }
+    checkLanguages(inspected);
+    checkIndexes(inspected);
+    checkStatistics(inspected);
+}
+
+void checkValues(Inspected const & inspected)
+{
+    for (KnownColumn const & known : knownColumns()) {
+        if (known.reading != Reading::Text && known.reading != Reading::Bytes)
+            checkColumnValues(inspected, inspected.database.table(known.table), known);
+    }
+}
+
+} // namespace kestrova::authoring

@@ -1,0 +1,206 @@
+#include "diff/view.h"
+
+#include "records/driverPropertyTarget.h"
+#include "records/objectDef.h"
+
+#include <QSqlQuery>
+
+using namespace kestrova::Morvel::Devicelore;
+
+namespace kestrova::authoring {
+
+namespace {
+
+constexpr int lastMode = 8;
+
+QString textOf(double number)
+{
+    return QString::number(number, 'g', 15);
+}
+
+/// The texts of each group: what "text LANGUAGE VALUE" says, by offset.
+QHash<qint64, Members> readTexts(Table const & texts)
+{
+    QHash<qint64, Members> groups;
+    for (int row = 0; row < texts.rowCount(); ++row) {
+        Members & group = groups[texts.value(row, "TextOffset").toLongLong()];
+        for (int column = 0; column < texts.columns.size(); ++column) {
+            QString const & language = texts.columns.at(column);
+            if (language.startsWith(QLatin1String("TextShort_")) && !texts.value(row, column).isNull())
+                group.insert(QStringLiteral("text %1 %2").arg(language.mid(10), texts.text(row, "Value")),
+                             texts.value(row, column).toString());
+        }
+    }
+    return groups;
+}
+
+Members membersOf(CObjectDef const & object)
+{
+    return {{QStringLiteral("number"),
+             QStringLiteral("%1/%2").arg(object.BoxNumber()).arg(object.ObjectNumber())},
+            {QStringLiteral("channels"), QString::number(object.channelCount())},
+            {QStringLiteral("records"), QString::number(object.recordCount())},
+            {QStringLiteral("minimum"), textOf(object.minValue())},
+            {QStringLiteral("maximum"), textOf(object.maxValue())},
+            {QStringLiteral("step"), textOf(object.step())},
+            {QStringLiteral("format"), object.format()},
+            {QStringLiteral("flags"), QString::number(object.flags())},
+            {QStringLiteral("access"), QString::number(object.access())},
+            {QStringLiteral("default"), object.defaultValue().toString()},
+            {QStringLiteral("size"), QString::number(object.size())},
+            {QStringLiteral("name for people"), object.displayName()},
+            {QStringLiteral("comment"), object.comment()},
+            {QStringLiteral("class"), QString::number(object.classId())},
+            {QStringLiteral("wait time"), QString::number(object.waitTime())},
+            {QStringLiteral("wait states"), QString::number(object.waitStates())}};
+}
+
+/// An object, and the name by which it is found.
+struct NamedObject {
+    QString name;
+    Members members;
+};
+
+/// The objects of a database by their ids, with their texts. Devices that share a row share its members.
+QHash<qint64, NamedObject> readObjects(DescriptionSet & set, Database const & database)
+{
+    QHash<qint64, NamedObject> objects;
+    Table const & table = database.table("Objects");
+    QHash<qint64, Members> const texts = readTexts(database.table("TextsObjectValues"));
+    auto const everything = QFlags<ObjectDefMask>(QFlag(~0U));
+    QSqlQuery query(database.connection);
+    query.setForwardOnly(true);
+    int const id = table.column(QStringLiteral("id"));
+    if (id < 0 || !query.exec(QStringLiteral("SELECT * FROM Objects")))
+        return objects;
+    while (query.next()) {
+        CObjectDef object;
+        set.cache().takeQuery(query, everything, table.columns, object);
+        Members members = membersOf(object);
+        Members const group = texts.value(object.textOffset());
+        for (auto text = group.constBegin(); text != group.constEnd(); ++text)
+            members.insert(text.key(), text.value());
+        objects.insert(query.value(id).toLongLong(), {object.name(), members});
+    }
+    return objects;
+}
+
+bool isOwner(DescriptionSet & set, Database const & database, QString const & guid)
+{
+    return set.cache().connectionName(CDeviceGuid(guid)) == database.file;
+}
+
+void viewDevices(DescriptionSet & set, Database const & database, SetView & view)
+{
+    Table const & guids = database.table("Guids");
+    for (int row = 0; row < guids.rowCount(); ++row) {
+        QString const guid = CDeviceGuid(guids.text(row, "GUID")).toString().toUpper();
+        if (!isOwner(set, database, guid) || view.devices.contains(guid))
+            continue;
+        view.devices[guid].insert(QStringLiteral("device"),
+                                  {{QStringLiteral("model"), guids.text(row, "DeviceType")},
+                                   {QStringLiteral("firmware"), guids.text(row, "Version")},
+                                   {QStringLiteral("level"), guids.text(row, "Access")},
+                                   {QStringLiteral("remote numbering"), guids.text(row, "OnoType")}});
+    }
+}
+
+void viewObjects(DescriptionSet & set, Database const & database, SetView & view)
+{
+    QHash<qint64, NamedObject> const objects = readObjects(set, database);
+    Table const & links = database.table("guidsandobjects");
+    for (int row = 0; row < links.rowCount(); ++row) {
+        QString const guid = links.text(row, "guid");
+        auto const object = objects.constFind(links.value(row, "objectid").toLongLong());
+        auto const device = view.devices.find(guid);
+        if (object == objects.constEnd() || device == view.devices.end() || !isOwner(set, database, guid))
+            continue;
+        QString const name = QStringLiteral("object ") + object->name;
+        if (!device->contains(name)) // the first row of a name is the one that is found
+            device->insert(name, object->members);
+    }
+}
+
+void viewSpeakersOf(DescriptionSet & set, QString const & guid, Things & device)
+{
+    CDeviceGuid const value(guid);
+    QList<unsigned short> ids;
+    set.library().listSpeakersForDevice(value, ids);
+    for (unsigned short const id : ids) {
+        Members & speaker = device[QStringLiteral("support of speaker %1").arg(id)];
+        CDeviceChannelInfo channel;
+        channel.SetSpeakerId(id);
+        for (int slot = 1; slot <= 7; ++slot) {
+            QString const filter = set.library().GetFilterName(value, slot, &channel);
+            if (!filter.isNull())
+                speaker.insert(QStringLiteral("filter %1").arg(slot), filter);
+        }
+    }
+}
+
+void viewDefaultSpeakers(DescriptionSet & set, QString const & guid, Things & device)
+{
+    CDeviceGuid const value(guid);
+    int const channels = set.library().deviceChannelCount(value, ChannelTypeSpeaker);
+    Members defaults;
+    for (int mode = 0; mode <= lastMode; ++mode) {
+        for (int channel = 1; channel <= channels; ++channel) {
+            CDriverPropertyTarget const target(value, QStringLiteral("Config_SpeakerId"),
+                                               DeviceChannel(channel), 0, nullptr);
+            defaults.insert(QStringLiteral("mode %1 channel %2").arg(mode).arg(channel),
+                            set.library().defaultSpeakerId(target, OutputMode(mode)).toString());
+        }
+    }
+    if (channels > 0)
+        device.insert(QStringLiteral("default speakers"), defaults);
+}
+
+void viewSpeakers(Database const & database, SetView & view)
+{
+    Table const & speakers = database.table("Speakers");
+    for (int row = 0; row < speakers.rowCount(); ++row) // of several rows the last one stands in front
+        view.things.insert(QStringLiteral("speaker ") + speakers.text(row, "SpeakerId"),
+                           {{QStringLiteral("name"), speakers.text(row, "Name")},
+                            {QStringLiteral("class"), speakers.text(row, "Class")},
+                            {QStringLiteral("rib"), speakers.text(row, "Rib")},
+                            {QStringLiteral("short name"), speakers.text(row, "DisplayNameShort")},
+                            {QStringLiteral("sort order"), speakers.text(row, "SortOrder")},
+                            {QStringLiteral("Cablefit count"), speakers.text(row, "CablefitMaxCount")},
+                            {QStringLiteral("Wavefold level"), speakers.text(row, "WfActive")}});
+    Table const & hardware = database.table("Hardwaretypes");
+    for (int row = 0; row < hardware.rowCount(); ++row)
+        view.things.insert(QStringLiteral("hardware type ") + hardware.text(row, "Type"),
+                           {{QStringLiteral("model"), hardware.text(row, "DeviceType")}});
+}
+
+void viewGroups(DescriptionSet & set, SetView & view)
+{
+    CDevicelore const & library = set.library();
+    for (QString const & group : library.enumDevicePropertyFilter()) {
+        Members & members = view.things[QStringLiteral("group ") + group];
+        for (QString const & property : library.devicePropertyFilter(group))
+            members.insert(QStringLiteral("property ") + property, QStringLiteral("yes"));
+    }
+}
+
+} // namespace
+
+SetView viewOf(DescriptionSet & set)
+{
+    SetView view;
+    for (QString const & file : set.openFiles()) {
+        Database const database = set.read(file);
+        viewDevices(set, database, view);
+        viewObjects(set, database, view);
+        viewSpeakers(database, view);
+    }
+    set.cache().setDevicePropertyFilterAccessLevel(255);
+    viewGroups(set, view);
+    for (auto device = view.devices.begin(); device != view.devices.end(); ++device) {
+        viewSpeakersOf(set, device.key(), *device);
+        viewDefaultSpeakers(set, device.key(), *device);
+    }
+    return view;
+}
+
+} // namespace kestrova::authoring
