@@ -144,7 +144,7 @@ std::vector<Row> const & rows()
          "a.db3, Objects, Format, Trim (id 109): \"is %6d\" does not begin with its conversion "
          "[format-unparsable]"},
         {"format-width", "UPDATE Objects SET Format = '%5.2d dB' WHERE id = 109", "", "",
-         "a.db3, Objects, Format, Trim (id 109): \"%5.2d dB\" is 5 wide, and -12.00 takes 6 [format-width]"},
+         "a.db3, Objects, Format, Trim (id 109): \"%5.2d dB\" is 5 wide, and -1200 takes 6 [format-width]"},
         {"format-without-size", "UPDATE Objects SET Format = '%.2f dB' WHERE id = 101", "", "",
          "a.db3, Objects, Format, Gain (id 101): \"%.2f dB\" names no conversion that has a size "
          "[format-without-size]"},

@@ -119,7 +119,7 @@ void checkWidth(Format const & format, QVector<FormatFault> & faults)
         if (length > format.spec.width) {
             faults.append({"format-width", "Format",
                            QStringLiteral("\"%1\" is %2 wide, and %3 takes %4")
-                               .arg(format.text, QString::number(format.spec.width), printed.trimmed(),
+                               .arg(format.text, QString::number(format.spec.width), textOf(end),
                                     QString::number(length))});
             return;
         }
