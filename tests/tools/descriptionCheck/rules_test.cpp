@@ -316,7 +316,7 @@ std::vector<Row> const & rows()
     return all;
 }
 
-constexpr int pageSize = 4096;
+constexpr qint64 pageSize = 4096;
 
 /// The rules about whole files, which have tests of their own.
 QSet<QString> const rulesOfFiles{QStringLiteral("damaged-table"), QStringLiteral("not-a-database"),
@@ -394,7 +394,7 @@ TEST(DescriptionRules, FindATableThatEndsInDamage)
     QFile file(world.path() + QStringLiteral("/a.db3"));
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     file.seek(file.size() - 5 * pageSize);
-    file.write(QByteArray(pageSize, '\xFF'));
+    file.write(QByteArray(static_cast<int>(pageSize), '\xFF'));
     file.close();
     EXPECT_EQ(world.findingLines(),
               QStringList({QStringLiteral(

@@ -135,10 +135,9 @@ QVector<double> triedValues(Format const & format)
     QVector<double> values;
     if (!(step > 0) || !(last >= 0) || !std::isfinite(last))
         return values;
-    double const stride = last < allCodesOf ? 1.0 : std::floor(last / triedCodes);
-    for (double number = 0; number <= last; number += stride)
-        values.append(minimum + number * step);
-    values.append(minimum + last * step);
+    int const count = last < allCodesOf ? static_cast<int>(last) : triedCodes;
+    for (int i = 0; i <= count; ++i)
+        values.append(minimum + std::floor(last * i / std::max(1, count)) * step);
     return values;
 }
 

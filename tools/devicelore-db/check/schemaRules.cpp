@@ -170,7 +170,7 @@ QString messageOf(QVariant const & value, KnownColumn const & known)
 {
     if (value.isNull())
         return QStringLiteral("%1 is NULL").arg(QLatin1String(known.name));
-    QString const is = QStringLiteral("%1 is %2").arg(QLatin1String(known.name), shownValue(value));
+    QString is = QStringLiteral("%1 is %2").arg(QLatin1String(known.name), shownValue(value));
     switch (known.reading) {
     case Reading::Unsigned8:
         return QStringLiteral("%1; 0 to 255 fit").arg(is);
