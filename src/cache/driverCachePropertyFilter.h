@@ -48,13 +48,14 @@ public:
 
     void clear();
 
-private:
+protected:
     using Filters = QHash<QString, CDevicePropertyFilterItem *>;
 
+    Filters * filters; ///< by name; owns the records
+
+private:
     void fillIfEmpty(unsigned char accessLevel, QStringList const & connectionNames);
     void addFilter(CDevicePropertyFilterItem const & definition, QStringList const & properties);
-
-    Filters * filters; ///< owns the records
 };
 
 } // namespace kestrova::Morvel::Devicelore
