@@ -21,24 +21,47 @@ namespace kestrova::Morvel::Devicelore {
 
 CDriverCache::CDriverCache(QObject * parent)
     : QObject(parent)
-    , objectItems(new (std::nothrow) CDriverCacheObjectItemList)
-    , guidItems(new (std::nothrow) CDriverCacheGuidItemList)
-    , hardwareTypes(new (std::nothrow) QVector<QString>)
-    , filterItems(new (std::nothrow) CDriverCacheFilterItemList)
-    , speakerItems(new (std::nothrow) CDriverCacheSpeakerItemList)
-    , textItems(new (std::nothrow) CDriverCacheTextItemList)
-    , propertyFilter(new (std::nothrow) CDriverCachePropertyFilter)
-    , objectClassItems(new (std::nothrow) CDriverCacheObjectClassItemList)
 {
+    try {
+        createCatalogues();
+    } catch (...) {
+        deleteCatalogues(); // no destructor runs for what was not constructed
+        throw;
+    }
+}
+
+CDriverCache::~CDriverCache()
+{
+    closeDatabases();
+    deleteCatalogues();
+}
+
+void CDriverCache::createCatalogues()
+{
+    objectItems = new (std::nothrow) CDriverCacheObjectItemList;
+    guidItems = new (std::nothrow) CDriverCacheGuidItemList;
+    hardwareTypes = new (std::nothrow) QVector<QString>;
+    filterItems = new (std::nothrow) CDriverCacheFilterItemList;
+    speakerItems = new (std::nothrow) CDriverCacheSpeakerItemList;
+    textItems = new (std::nothrow) CDriverCacheTextItemList;
+    propertyFilter = new (std::nothrow) CDriverCachePropertyFilter;
+    objectClassItems = new (std::nothrow) CDriverCacheObjectClassItemList;
     deviceInfos = deviceInfoRegistry();
     if (!objectItems || !guidItems || !hardwareTypes || !filterItems || !speakerItems || !textItems ||
         !propertyFilter || !objectClassItems)
         throw CMemoryException();
 }
 
-CDriverCache::~CDriverCache()
+void CDriverCache::deleteCatalogues()
 {
-    closeDatabases();
+    delete objectItems;
+    delete guidItems;
+    delete hardwareTypes;
+    delete filterItems;
+    delete speakerItems;
+    delete textItems;
+    delete propertyFilter;
+    delete objectClassItems;
 }
 
 int CDriverCache::openDatabases(QDir const & dir)

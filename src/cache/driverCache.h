@@ -49,9 +49,9 @@ class CObjectQueries;
 /// The one store behind every facade: the open description databases and the catalogues that are filled from
 /// them.
 ///
-/// A cache does nothing by itself. openDatabases() opens the databases and reads the catalogues of devices
-/// and hardware types; all questions are answered on the caller's thread, and answers may fill catalogues, so
-/// a cache is used by one thread at a time.
+/// A cache does nothing by itself. openDatabases() opens the databases and reads the catalogues of devices,
+/// hardware types, speakers and object classes; all questions are answered on the caller's thread, and
+/// answers may fill catalogues, so a cache is used by one thread at a time.
 ///
 /// Wherever several databases have a say, they are asked in the order in which they were opened. Trouble in a
 /// database is silent: a statement that fails counts as one without rows.
@@ -113,9 +113,9 @@ public:
     // A change of either level empties all catalogues, reads the start catalogues again and so ends the life
     // of every pointer to a cached item. Setting the present level does nothing.
 
-    /// The level against which devices are released. It starts at 0, while the device catalogue itself starts
-    /// at 1: on a fresh cache setGuidSupportedLevel(0) leaves the catalogue at 1, and
-    /// setGuidSupportedLevel(1) only reloads.
+    /// The level against which devices and objects are released, and speakers are read. It starts at 0, while
+    /// the device catalogue itself starts at 1: on a fresh cache setGuidSupportedLevel(0) leaves the
+    /// catalogue at 1, and setGuidSupportedLevel(1) only reloads.
     unsigned char guidSupportedLevel() const;
     void setGuidSupportedLevel(unsigned char level);
 
@@ -265,7 +265,7 @@ protected:
     bool createDriverCacheObjectItem(CDriverCacheObjectItem *& item, CDriverCacheKey * key);
 
     /// Reads the members of the object's mask from the database that describes that very GUID. TharnFailed
-    /// without an open database, TharnNotFound without a row; \a object stays as it came then.
+    /// without a connection, TharnNotFound without a row; \a object stays as it came then.
     TharnError objectFromDb(QString const & name, QString const & guidString, CObjectDef & object);
     TharnError objectFromDb(unsigned short number, QString const & guidString, CObjectDef & object);
 
@@ -280,18 +280,22 @@ protected:
     QHash<CDeviceGuid, QString> guidConnections; ///< the connection of the database that supplied a GUID
     QHash<QString, bool> connectionHasBoxNumber; ///< whether a database's Objects have the column BoxNumber
     QHash<QString, ADeviceInfo *> deviceInfos;   ///< by device type string; borrowed from the process
-    std::unique_ptr<CDriverCacheObjectItemList> objectItems;
-    std::unique_ptr<CDriverCacheGuidItemList> guidItems;
-    std::unique_ptr<QVector<QString>> hardwareTypes; ///< device type string by hardware type number
-    std::unique_ptr<CDriverCacheFilterItemList> filterItems;
-    std::unique_ptr<CDriverCacheSpeakerItemList> speakerItems;
-    std::unique_ptr<CDriverCacheTextItemList> textItems;
-    std::unique_ptr<CDriverCachePropertyFilter> propertyFilter;
-    std::unique_ptr<CDriverCacheObjectClassItemList> objectClassItems;
+    // The catalogues, owned. Plain pointers, because type and order of the members are part of what
+    // subclasses see.
+    CDriverCacheFilterItemList * filterItems = nullptr;
+    CDriverCacheGuidItemList * guidItems = nullptr;
+    QVector<QString> * hardwareTypes = nullptr; ///< device type string by hardware type number
+    CDriverCacheObjectItemList * objectItems = nullptr;
+    CDriverCachePropertyFilter * propertyFilter = nullptr;
+    CDriverCacheSpeakerItemList * speakerItems = nullptr;
+    CDriverCacheTextItemList * textItems = nullptr;
+    CDriverCacheObjectClassItemList * objectClassItems = nullptr;
     unsigned char devicePropertyFilterAccessLevel_ = 0;
     unsigned char guidSupportedLevel_ = 0;
 
 private:
+    void createCatalogues();
+    void deleteCatalogues();
     ADeviceInfo * deviceInfoOnGuid(CDeviceGuid const & guid) const;
     bool isAboveLevel(CDeviceGuid const & guid, CObjectDef const & object) const;
     TharnError readObject(CDriverCacheKey const & key, CObjectDef & definition);

@@ -46,7 +46,7 @@ public:
     /// Forgets all texts. The language stays.
     void clear();
 
-private:
+protected:
     using Texts = QMultiHash<unsigned int, QPair<int, QString>>; ///< values and texts by offset
 
     QString language_;

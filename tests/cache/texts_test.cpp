@@ -180,10 +180,51 @@ TEST_F(ValueTexts, AreEmptiedWithTheCacheWhichKeepsTheLanguage)
 
 TEST_F(ValueTexts, ReadASecondTimeStandInFrontOfTheFirst)
 {
-    cache.textItems->textFromDb(10, QStringLiteral("b.db3"));
-    cache.textItems->textFromDb(10, QStringLiteral("b.db3"));
+    QString const connection = QStringLiteral("b.db3");
+    cache.textItems->textFromDb(10, connection);
+    DatabaseFolder later;
+    later.add(connection, table + QStringLiteral("INSERT INTO TextsObjectValues VALUES (10, 0, 'Shut', ''), "
+                                                 "(10, 1, 'Ajar', '');"));
+    ExposedCache other;
+    ASSERT_EQ(other.openDatabases(later.dir()), 1) << "under the name that the first cache reads from";
+    cache.textItems->textFromDb(10, connection);
     Texts list;
-    EXPECT_EQ(cache.textItems->textList(10, list, QStringLiteral("b.db3")), 2);
+    EXPECT_EQ(cache.textItems->textList(10, list, connection), 3);
+    EXPECT_EQ(
+        list,
+        (Texts{{1, QStringLiteral("Ajar")}, {0, QStringLiteral("Shut")}, {0, QStringLiteral("Closed")}}));
+    EXPECT_EQ(cache.textItems->text(10, 0, connection), QStringLiteral("Shut"));
+}
+
+TEST_F(ValueTexts, OfAKnownGroupAreNotReadAgainForAValueThatItLacks)
+{
+    EXPECT_EQ(cache.text(device, 10, 0), QStringLiteral("Off"));
+    EXPECT_TRUE(cache.text(device, 10, 2).isNull());
+    Texts list;
+    EXPECT_EQ(cache.textList(device, 10, list), 4) << "read twice, each row would stand twice";
+}
+
+TEST_F(ValueTexts, OfACopiedListAreSharedWithItsSource)
+{
+    class TextList : public CDriverCacheTextItemList {
+    public:
+        /// Leaves the texts to the other owner.
+        void giveUp() { textsOfConnection.clear(); }
+    };
+
+    TextList original;
+    QString const connection = QStringLiteral("a.db3");
+    original.textFromDb(0, connection);
+    TextList copy(original);
+    copy.textFromDb(10, connection);
+    closeDatabases();
+    EXPECT_EQ(original.text(10, 0, connection), QStringLiteral("Off")) << "read through the copy";
+    EXPECT_EQ(copy.text(0, 5, connection), QStringLiteral("Zero"));
+    TextList assigned;
+    assigned = copy;
+    EXPECT_EQ(assigned.text(10, 0, connection), QStringLiteral("Off"));
+    copy.giveUp();
+    assigned.giveUp();
 }
 
 TEST_F(ValueTexts, OfAConnectionThatIsNoneAreNone)

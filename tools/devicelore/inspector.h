@@ -39,7 +39,7 @@ public:
             static auto baseGuidsOf() { return &Catalogue::baseGuids; }
         };
 
-        return (guidItems.get()->*Catalogue::baseGuidsOf()).value(static_cast<unsigned char>(guid.value()));
+        return (guidItems->*Catalogue::baseGuidsOf()).value(static_cast<unsigned char>(guid.value()));
     }
 
     /// The names of the open databases, in the order in which they are asked.
