@@ -22,10 +22,17 @@ CVersionNumber readVersion(QSqlDatabase const & db)
 
 QSqlDatabase openConnection(QString const & connectionName)
 {
-    QSqlDatabase db = QSqlDatabase::database(connectionName, false);
-    if (db.isValid() && !db.isOpen())
-        db.open();
-    return db;
+    QString closedFile;
+    {
+        QSqlDatabase const db = QSqlDatabase::database(connectionName, false);
+        if (!db.isValid() || db.isOpen())
+            return db;
+        closedFile = db.databaseName();
+    } // Qt would complain about a connection that is replaced while anybody holds it
+    // Not by the connection's own open(), which would go past the cipher. Without success the connection is
+    // gone.
+    OpenEncryptedSqliteDatabase(closedFile, connectionName);
+    return QSqlDatabase::database(connectionName, false);
 }
 
 QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement)

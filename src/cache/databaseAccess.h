@@ -9,8 +9,8 @@
 
 namespace kestrova::Morvel::Devicelore {
 
-/// The connection of that name, opened if need be; an invalid one when there is none. Qt would log a
-/// complaint about a connection that cannot be opened; the library does not.
+/// The connection of that name; one that was closed is opened again. An invalid one when there is none, or
+/// none any more because it could not be opened again. Nothing is logged.
 QSqlDatabase openConnection(QString const & connectionName);
 
 /// The rows of a complete statement, to be walked with next(). A statement that fails has none, and leaves

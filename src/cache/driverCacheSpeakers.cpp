@@ -74,7 +74,7 @@ void CDriverCache::fillSpeakers(QSqlDatabase const & db)
 
 void CDriverCache::fillGuidSpeakerList(CDeviceGuid const & guid)
 {
-    QSqlDatabase const db = QSqlDatabase::database(connectionName(guid), false);
+    QSqlDatabase const db = openConnection(connectionName(guid));
     if (!db.isValid())
         return;
     QSqlQuery rows = preparedQuery(

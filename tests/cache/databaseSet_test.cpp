@@ -1,4 +1,5 @@
 #include "exposedCache.h"
+#include "sqlcipher/databaseFile.h"
 #include "support/databaseFolder.h"
 #include "support/messageRecorder.h"
 #include "support/print.h"
@@ -6,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <QSqlDatabase>
+
+#include <type_traits>
 
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
@@ -39,6 +42,16 @@ QStringList namesOf(QList<CDriverDatabaseInfo> const & infos)
 }
 
 } // namespace
+
+// A subclass of an application takes the catalogues as what they are.
+static_assert(std::is_same_v<decltype(ExposedCache::filterItems), CDriverCacheFilterItemList *>);
+static_assert(std::is_same_v<decltype(ExposedCache::guidItems), CDriverCacheGuidItemList *>);
+static_assert(std::is_same_v<decltype(ExposedCache::hardwareTypes), QVector<QString> *>);
+static_assert(std::is_same_v<decltype(ExposedCache::objectItems), CDriverCacheObjectItemList *>);
+static_assert(std::is_same_v<decltype(ExposedCache::propertyFilter), CDriverCachePropertyFilter *>);
+static_assert(std::is_same_v<decltype(ExposedCache::speakerItems), CDriverCacheSpeakerItemList *>);
+static_assert(std::is_same_v<decltype(ExposedCache::textItems), CDriverCacheTextItemList *>);
+static_assert(std::is_same_v<decltype(ExposedCache::objectClassItems), CDriverCacheObjectClassItemList *>);
 
 TEST(DatabaseSet, StartsEmpty)
 {
@@ -86,6 +99,19 @@ TEST(DatabaseSet, LetsTheDirectoryDecideWhichFilesAndInWhichOrder)
     ExposedCache cache;
     EXPECT_EQ(cache.openDatabases(dir), 2);
     EXPECT_EQ(cache.connectionNames.join(QLatin1Char(' ')), QStringLiteral("b.data a.data"));
+}
+
+TEST(DatabaseSet, KnowsFilesByTheirAbsolutePath)
+{
+    DatabaseFolder folder;
+    folder.add(QStringLiteral("a.db3"), QString());
+    QDir relative(QDir::current().relativeFilePath(folder.dir().path()));
+    ASSERT_TRUE(relative.isRelative());
+    relative.setNameFilters({QStringLiteral("*.db3")});
+    ExposedCache cache;
+    ASSERT_EQ(cache.openDatabases(relative), 1);
+    QString const path = QSqlDatabase::database(QStringLiteral("a.db3"), false).databaseName();
+    EXPECT_TRUE(QDir::isAbsolutePath(path)) << qPrintable(path);
 }
 
 TEST(DatabaseSet, AnEmptyDirectoryChangesNothing)
@@ -215,9 +241,12 @@ TEST(DatabaseSet, ClosingKeepsWhatWasRead)
 TEST(DatabaseSet, ClearingKeepsTheSetAndTheLevels)
 {
     DatabaseFolder folder;
-    folder.add(QStringLiteral("a.db3"), oneDevice);
+    folder.add(QStringLiteral("a.db3"),
+               oneDevice + QStringLiteral("CREATE TABLE ObjectClasses (Id, OcaClassId, Description);"
+                                          "INSERT INTO ObjectClasses VALUES (9, '1.2', '');"));
     ExposedCache cache;
     cache.openDatabases(folder.dir());
+    ASSERT_NE(cache.objectClassItems->itemByClassId(9), nullptr);
     cache.setGuidSupportedLevel(2);
     cache.setDevicePropertyFilterAccessLevel(3);
     cache.setHardwareType(4, QStringLiteral("Talvo"));
@@ -225,6 +254,7 @@ TEST(DatabaseSet, ClearingKeepsTheSetAndTheLevels)
     EXPECT_EQ(cache.guidItems->count(), 0);
     EXPECT_TRUE(cache.guidConnections.isEmpty());
     EXPECT_EQ(cache.hardwareTypes->size(), 0);
+    EXPECT_EQ(cache.objectClassItems->itemByClassId(9), nullptr);
     EXPECT_EQ(cache.connectionNames, QStringList{QStringLiteral("a.db3")});
     EXPECT_TRUE(cache.connectionHasBoxNumber.contains(QStringLiteral("a.db3")));
     EXPECT_EQ(cache.guidSupportedLevel(), 2);
@@ -260,6 +290,42 @@ TEST(DatabaseSet, AConnectionThatAnotherCacheTookAwayIsSilent)
     EXPECT_EQ(infos.first(), CDriverDatabaseInfo());
     cache.init();
     EXPECT_EQ(cache.guidItems->count(), 0);
+    EXPECT_EQ(recorder.messages(), QStringList());
+}
+
+TEST(DatabaseSet, AConnectionThatWasClosedFromOutsideIsOpenedAgain)
+{
+    DatabaseFolder plain;
+    plain.add(QStringLiteral("a.db3"), oneDevice);
+    DatabaseFolder encrypted;
+    encrypted.addFile(QStringLiteral("a.db3"), QByteArray());
+    kestrova::sqlcipher::encryptDatabase(plain.path(QStringLiteral("a.db3")),
+                                         encrypted.path(QStringLiteral("a.db3")));
+    for (DatabaseFolder const * const folder : {&plain, &encrypted}) {
+        SCOPED_TRACE(folder == &plain ? "plain" : "encrypted");
+        MessageRecorder recorder;
+        ExposedCache cache;
+        ASSERT_EQ(cache.openDatabases(folder->dir()), 1);
+        QSqlDatabase::database(QStringLiteral("a.db3"), false).close();
+        cache.init();
+        EXPECT_EQ(cache.deviceModels(), QStringList{QStringLiteral("Talvo")});
+        EXPECT_EQ(infosOf(cache).first().filePath(), folder->path(QStringLiteral("a.db3")));
+        EXPECT_EQ(recorder.messages(), QStringList());
+    }
+}
+
+TEST(DatabaseSet, AConnectionThatCannotBeOpenedAgainIsGone)
+{
+    DatabaseFolder folder;
+    folder.add(QStringLiteral("a.db3"), oneDevice);
+    MessageRecorder recorder;
+    ExposedCache cache;
+    ASSERT_EQ(cache.openDatabases(folder.dir()), 1);
+    QSqlDatabase::database(QStringLiteral("a.db3"), false).close();
+    folder.addFile(QStringLiteral("a.db3"), "no database");
+    cache.init();
+    EXPECT_TRUE(cache.deviceModels().isEmpty());
+    EXPECT_FALSE(QSqlDatabase::contains(QStringLiteral("a.db3")));
     EXPECT_EQ(recorder.messages(), QStringList());
 }
 

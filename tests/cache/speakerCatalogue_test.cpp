@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QSqlDatabase>
+
 #include <algorithm>
 #include <memory>
 
@@ -124,6 +126,8 @@ TEST_F(Speakers, AboveTheLevelAreNotKnownAtAll)
 {
     Ids ids = cache.speakerItems->speakerIds();
     EXPECT_FALSE(ids.contains(14));
+    cache.setGuidSupportedLevel(1);
+    EXPECT_FALSE(cache.speakerItems->speakerIds().contains(14)) << "it needs level 2";
     cache.setGuidSupportedLevel(2);
     ids = cache.speakerItems->speakerIds();
     EXPECT_TRUE(ids.contains(14));
@@ -135,6 +139,8 @@ TEST_F(Speakers, AboveTheLevelAreNotKnownAtAll)
 TEST_F(Speakers, OfADeviceComeInDisplayOrder)
 {
     EXPECT_EQ(list(), (Ids{5, 9})) << "300 needs level 2, and 77 is not defined";
+    cache.setGuidSupportedLevel(1);
+    EXPECT_EQ(list(), (Ids{5, 9}));
     cache.setGuidSupportedLevel(2);
     EXPECT_EQ(list(), (Ids{5, 9, 300}));
 }
@@ -194,6 +200,15 @@ TEST_F(Speakers, AreAskedFromMemoryOnceTheyWereRead)
     EXPECT_EQ(recorder.messages(), QStringList());
 }
 
+TEST_F(Speakers, AreReadThroughAConnectionThatWasClosedFromOutside)
+{
+    MessageRecorder recorder;
+    QSqlDatabase::database(QStringLiteral("a.db3"), false).close();
+    EXPECT_EQ(list(), (Ids{5, 9}));
+    EXPECT_TRUE(QSqlDatabase::database(QStringLiteral("a.db3"), false).isOpen());
+    EXPECT_EQ(recorder.messages(), QStringList());
+}
+
 TEST_F(Speakers, ThatAreUnknownHaveNoDefinition)
 {
     QList<CSpeakerDef> found{CSpeakerDef()};
@@ -228,6 +243,39 @@ TEST(SpeakerSets, KeepDifferentDefinitionsOfOneIdAndIdenticalOnesOnce)
     EXPECT_EQ(speakerClass.classNumber, 255) << "its class came with a later database";
     EXPECT_EQ(cache.speakerItems->speakerIds(), (Ids{9, 9}));
     EXPECT_TRUE(cache.isSpeakerSupportedByDevice(9, device)) << "in both lists, and the supported one counts";
+}
+
+TEST(SpeakerSets, HaveIdsOf16Bits)
+{
+    DatabaseFolder folder;
+    folder.add(QStringLiteral("a.db3"),
+               tables + QStringLiteral("INSERT INTO Guids VALUES ('C7000005', 'Talvo', '', 0);"
+                                       "INSERT INTO Speakers VALUES (5, 'First', 0, 0, '', 1, 0, 0), "
+                                       "(65541, 'Second', 0, 0, '', 2, 0, 0);"
+                                       "INSERT INTO GuidsSpeakersFilters VALUES ('C7000005', 5, 1, 0), "
+                                       "('C7000005', 65541, 1, 0);"));
+    ExposedCache cache;
+    ASSERT_EQ(cache.openDatabases(folder.dir()), 1);
+    EXPECT_EQ(cache.speakerItems->speakerIds(), (Ids{5, 5}));
+    Ids ids;
+    EXPECT_EQ(cache.listSpeakersForDevice(device, ids), TharnNoError);
+    EXPECT_EQ(ids, Ids{5}) << "the device supports it once";
+    EXPECT_TRUE(cache.isSpeakerSupportedByDevice(5, device));
+    EXPECT_EQ(cache.maxSpeakerId(), 5);
+}
+
+TEST(SpeakerList, LeavesOutIdsWithoutADefinition)
+{
+    List list;
+    list.addToSupportedList(device, 5);
+    list.addToSupportedList(device, 9);
+    Ids ids{1};
+    QList<QPair<unsigned short, QString>> pairs;
+    EXPECT_EQ(list.listSpeakersForDevice(device, ids), TharnNoError);
+    EXPECT_EQ(ids, Ids()) << "replaced, though by nothing";
+    EXPECT_EQ(list.listSpeakersForDevice(device, pairs), TharnNoError);
+    EXPECT_TRUE(pairs.isEmpty());
+    EXPECT_EQ(fitting(list, 7, 0), Ids());
 }
 
 TEST(SpeakerList, KeepsDefinitionsByTheLowByte)
