@@ -61,9 +61,10 @@ double fallbackDefault(CObjectDef const & object)
 
 void convertDefaultValue(CObjectDef & object)
 {
-    bool isNumber = false;
-    double const number = object.defaultValue().toDouble(&isNumber);
-    object.setDefaultValue(isNumber ? number : fallbackDefault(object));
+    QVariant number = object.defaultValue();
+    // Unlike toDouble(), this fails for a null value of a numeric type too.
+    bool const isNumber = number.convert(QMetaType::Double);
+    object.setDefaultValue(isNumber ? number : QVariant(fallbackDefault(object)));
 }
 
 } // namespace
@@ -78,10 +79,12 @@ TharnError CDriverCache::objectFromRow(QString const & guidString, CObjectDef & 
     if (!db.isValid())
         return TharnFailed;
 
+    bool const hasBoxNumber = connectionHasBoxNumber.value(connection); // a subclass may change it any time
     std::shared_ptr<CObjectQueries> & queries = objectQueries[connection];
-    QSqlQuery * row = queries ? findRow(*queries) : nullptr;
-    if (!queries || queries->hasFailed()) {
-        queries = std::make_shared<CObjectQueries>(db, connectionHasBoxNumber.value(connection));
+    bool const isPrepared = queries && queries->hasBoxNumber() == hasBoxNumber;
+    QSqlQuery * row = isPrepared ? findRow(*queries) : nullptr;
+    if (!isPrepared || queries->hasFailed()) {
+        queries = std::make_shared<CObjectQueries>(db, hasBoxNumber);
         row = findRow(*queries);
     }
     if (row == nullptr)
@@ -170,6 +173,8 @@ void CDriverCache::takeQuery(QSqlQuery const & query, QFlags<ObjectDefMask> mask
 
 void CDriverCache::fillOcaCLassIdList()
 {
+    if (objectClassItems == nullptr)
+        return;
     for (QString const & name : std::as_const(connectionNames)) {
         QSqlQuery rows = queryRows(openConnection(name),
                                    QStringLiteral("SELECT Id, OcaClassId, Description FROM ObjectClasses"));

@@ -26,11 +26,11 @@ QString numberStatement(bool hasBoxNumber)
 
 } // namespace
 
-CObjectQueries::CObjectQueries(QSqlDatabase const & db, bool withBoxNumber)
+CObjectQueries::CObjectQueries(QSqlDatabase const & db, bool hasBoxNumber)
     : objectColumns(tableColumns(db, QStringLiteral("Objects")))
-    , hasBoxNumber(withBoxNumber)
+    , hasBoxNumber_(hasBoxNumber)
     , byName(preparedQuery(db, nameStatement()))
-    , byNumber(preparedQuery(db, numberStatement(withBoxNumber)))
+    , byNumber(preparedQuery(db, numberStatement(hasBoxNumber)))
 {}
 
 QSqlQuery * CObjectQueries::rowByName(QString const & name, QString const & guid)
@@ -43,9 +43,9 @@ QSqlQuery * CObjectQueries::rowByName(QString const & name, QString const & guid
 QSqlQuery * CObjectQueries::rowByNumber(unsigned short number, QString const & guid)
 {
     int position = 0;
-    if (hasBoxNumber)
+    if (hasBoxNumber_)
         byNumber.bindValue(position++, number >> 8, QSql::In);
-    byNumber.bindValue(position++, hasBoxNumber ? number & 0xFF : int(number), QSql::In);
+    byNumber.bindValue(position++, hasBoxNumber_ ? number & 0xFF : int(number), QSql::In);
     byNumber.bindValue(position, guid, QSql::In);
     return firstRow(byNumber);
 }

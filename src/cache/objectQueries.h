@@ -12,7 +12,10 @@ namespace kestrova::Morvel::Devicelore {
 /// are to be made.
 class CObjectQueries {
 public:
+    /// With \a hasBoxNumber, the statement by number asks for box and object number, else for both in one.
     CObjectQueries(QSqlDatabase const & db, bool hasBoxNumber);
+
+    bool hasBoxNumber() const { return hasBoxNumber_; }
 
     /// The columns of the table Objects, which come first in a row.
     QStringList const & columns() const { return objectColumns; }
@@ -29,7 +32,7 @@ private:
     QSqlQuery * firstRow(QSqlQuery & query);
 
     QStringList objectColumns;
-    bool hasBoxNumber;
+    bool hasBoxNumber_;
     bool failed = false;
     QSqlQuery byName;
     QSqlQuery byNumber;

@@ -24,6 +24,7 @@ public:
     using CDriverCache::fillGuidCache;
     using CDriverCache::fillGuidSpeakerList;
     using CDriverCache::fillHardwaretypeCache;
+    using CDriverCache::fillOcaCLassIdList;
     using CDriverCache::filterItems;
     using CDriverCache::filterNameFromDatabase;
     using CDriverCache::guidConnections;

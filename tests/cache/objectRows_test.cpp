@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
@@ -225,6 +228,112 @@ TEST(ObjectRow, IsFoundByNumberWithoutItsChannel)
     }
 }
 
+TEST(ObjectRow, IsLookedForByTheFormOfNumberThatIsSetForTheConnection)
+{
+    QString const olderObjects =
+        QStringLiteral("CREATE TABLE Objects (id INTEGER PRIMARY KEY, Name TEXT, ObjectNumber INTEGER);"
+                       "INSERT INTO Objects VALUES (1, 'Gain', 261);"
+                       "INSERT INTO guidsandobjects VALUES (1, 'C7000005');");
+    auto const find = [](ExposedCache & cache) {
+        CObjectDef object;
+        return cache.objectFromDb(quint16(0x0105), guidText, object);
+    };
+
+    OneDatabase older(guids + olderObjects);
+    older.cache.connectionHasBoxNumber.clear();
+    EXPECT_EQ(find(older.cache), TharnNoError) << "a connection without an entry has one number for both";
+
+    OneDatabase newer(guids + newerObjects + wholeObject);
+    QString const connection = QStringLiteral("a.db3");
+    EXPECT_EQ(find(newer.cache), TharnNoError);
+    newer.cache.connectionHasBoxNumber.insert(connection, false);
+    EXPECT_EQ(find(newer.cache), TharnNotFound) << "no row has the number 0x0105 for both";
+    newer.cache.connectionHasBoxNumber.insert(connection, true);
+    EXPECT_EQ(find(newer.cache), TharnNoError);
+}
+
+TEST(ObjectRow, NeedsTheGuidInUpperCaseWhereObjectsAreAssigned)
+{
+    struct Row {
+        char const * assigned;
+        TharnError result;
+    };
+
+    for (Row const & row : {Row{"c7000005", TharnNotFound}, Row{"C7000005", TharnNoError}}) {
+        SCOPED_TRACE(row.assigned);
+        OneDatabase database(
+            QStringLiteral("CREATE TABLE Guids (GUID TEXT, DeviceType TEXT, Version TEXT, Access INTEGER);"
+                           "INSERT INTO Guids VALUES ('c7000005', 'Talvo', '', 0);"
+                           "CREATE TABLE Objects (id INTEGER PRIMARY KEY, Name TEXT);"
+                           "INSERT INTO Objects VALUES (1, 'Gain');"
+                           "CREATE TABLE guidsandobjects (objectid INTEGER, guid TEXT);"
+                           "INSERT INTO guidsandobjects VALUES (1, '%1');")
+                .arg(QLatin1String(row.assigned)));
+        CObjectDef object;
+        EXPECT_EQ(database.cache.objectFromDb(QStringLiteral("Gain"), guidText, object), row.result);
+    }
+}
+
+TEST(ObjectRow, MakesANumberOfTheDefaultValueThatTheRecordBrought)
+{
+    OneDatabase database(
+        guids + newerObjects +
+        QStringLiteral("INSERT INTO Objects VALUES (1, 'Gain', 1, 5, 1, 1, 2, 10, 1, '%d', 3, 11, '7', 2, 0, "
+                       "'', '', 0, 0, 0); INSERT INTO guidsandobjects VALUES (1, 'C7000005');"));
+    QVariant nullInt{QString()};
+    nullInt.convert(QMetaType::Int);
+    ASSERT_EQ(nullInt.userType(), int(QMetaType::Int));
+    ASSERT_TRUE(nullInt.isNull());
+
+    struct Row {
+        char const * name;
+        QVariant brought;
+        double result;
+    };
+
+    Row const rows[] = {
+        {"a text", QStringLiteral("5.5"), 5.5},
+        {"an int", 3, 3.0},
+        {"a null int is no number", nullInt, 2.0},
+        {"nothing", QVariant(), 2.0},
+    };
+    for (Row const & row : rows) {
+        SCOPED_TRACE(row.name);
+        CObjectDef object;
+        object.setDefaultValue(row.brought);
+        object.setMask(QFlags<ObjectDefMask>(ObjectDefOnoType) | ObjectDefMinValue | ObjectDefMaxValue);
+        ASSERT_EQ(database.cache.objectFromDb(QStringLiteral("Gain"), guidText, object), TharnNoError);
+        EXPECT_EQ(object.defaultValue(), QVariant(row.result));
+        EXPECT_EQ(object.defaultValue().userType(), int(QMetaType::Double));
+    }
+}
+
+TEST(ObjectRow, IsTakenFromAnyQueryInTheOrderOfTheColumnsGiven)
+{
+    OneDatabase database(guids);
+    QSqlQuery query(QSqlDatabase::database(QStringLiteral("a.db3"), false));
+    ASSERT_TRUE(query.exec(QStringLiteral("SELECT 'first' AS Step, 12.5 AS Name, 77 AS Other, 200")));
+    ASSERT_TRUE(query.next());
+    QStringList const columns{QStringLiteral("Name"), QStringLiteral("Step"), QStringLiteral("ClassId"),
+                              QStringLiteral("Size")};
+    unsigned short const before[] = {4, 5};
+    CObjectDef object;
+    object.setName(QStringLiteral("before"));
+    object.setOcaClassId(before, 2);
+
+    database.cache.takeQuery(query, {}, columns, object);
+    EXPECT_EQ(object.name(), QStringLiteral("before")) << "nothing was asked for";
+    EXPECT_EQ(object.classId(), 0);
+
+    database.cache.takeQuery(query, QFlags<ObjectDefMask>(QFlag(~0U)), columns, object);
+    EXPECT_EQ(object.name(), QStringLiteral("first")) << "whatever the query calls its columns";
+    EXPECT_EQ(object.step(), 12.5);
+    EXPECT_EQ(object.classId(), 77);
+    EXPECT_EQ(object.size(), 200);
+    EXPECT_EQ(object.ocaClassIdSize(), 2) << "there is no class 77";
+    EXPECT_EQ(object.ocaClassId()[1], 5);
+}
+
 TEST(ObjectRow, ReadsMissingColumnsAsEmptyWithoutAWord)
 {
     MessageRecorder recorder;
@@ -312,6 +421,17 @@ TEST(ObjectClasses, AreReadOnceForAnId)
     ASSERT_NE(cache.objectClassItems->itemByClassId(2), nullptr);
     EXPECT_EQ(cache.objectClassItems->itemByClassId(2)->fieldCount(), 1);
     EXPECT_EQ(cache.objectClassItems->itemByClassId(2)->fields()[0], 0);
+}
+
+TEST(ObjectClasses, AreNotReadWithoutAPlaceForThem)
+{
+    OneDatabase database(
+        guids + QStringLiteral("CREATE TABLE ObjectClasses (Id INTEGER, OcaClassId TEXT, Description TEXT);"
+                               "INSERT INTO ObjectClasses VALUES (9, '1.2.3', '');"));
+    delete database.cache.objectClassItems;
+    database.cache.objectClassItems = nullptr;
+    database.cache.fillOcaCLassIdList();
+    EXPECT_EQ(database.cache.objectClassItems, nullptr);
 }
 
 TEST(ObjectClasses, ParseTheirFields)
