@@ -66,6 +66,7 @@ void CDriverCacheChannelKeyFilter::SetFilterNumber(unsigned char filterNumber)
     if (filterNumber == filterNumber_)
         return;
     filterNumber_ = filterNumber;
+    initFilternumberString();
     initKeyString();
 }
 

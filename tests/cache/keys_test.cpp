@@ -233,6 +233,25 @@ TEST(CacheKey, ANewFilterNumberChangesNumberAndTextOnly)
     CDriverCacheChannelKeyFilter untouched;
     untouched.SetFilterNumber(0);
     EXPECT_EQ(untouched.key(), QString()) << "the present number changes nothing, not even an empty text";
+    untouched.SetFilterNumber(5);
+    EXPECT_EQ(untouched.key(), QStringLiteral("00000000_000__05"));
+    EXPECT_EQ(untouched.filterNumberString(), QStringLiteral("05"));
+}
+
+TEST(CacheKey, ANewFilterNumberIsSpelledBeforeASubclassMakesItsText)
+{
+    class Subclass : public CDriverCacheChannelKeyFilter {
+    public:
+        QString seen;
+
+    protected:
+        void initKeyString() override { seen = filterNumberString(); }
+    };
+
+    Subclass key;
+    key.SetFilterNumber(26);
+    EXPECT_EQ(key.seen, QStringLiteral("1a"));
+    EXPECT_EQ(key.key(), QString()) << "the text is the subclass's own affair";
 }
 
 TEST(CacheKey, CopiesWhole)
