@@ -80,7 +80,7 @@ QString CDriverCache::filterNameFromDatabase(CDriverCacheChannelKeyFilter const 
         QSqlQuery row = preparedQuery(
             db, QStringLiteral("SELECT Id, Number, Type, Min, Max, DisplayNameShort,TextOffset, "
                                "StateTexts FROM Filters WHERE Id = ?"));
-        row.bindValue(0, filterId, QSql::In);
+        row.bindValue(0, filterId, QSql::In); // as it stands: made a number, "---" would not find its row
         row.exec();
         if (!row.next())
             continue;

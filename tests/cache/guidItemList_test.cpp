@@ -160,6 +160,7 @@ TEST(GuidItemList, OfEqualVersionsTheFirstStaysNewest)
     add(list, 0xC7020205);
     EXPECT_EQ(list.determineDriverGuid(0xC7000905), CDeviceGuid(0xC7010205));
     EXPECT_EQ(list.maxVersion(CDeviceGuid(0xC7000005)), 2);
+    EXPECT_EQ(list.maxVersion(static_cast<unsigned char>(5)), 2) << "by the type alone";
 }
 
 TEST(GuidItemList, ANewestVersionAddedFirstStaysNewest)
@@ -263,6 +264,17 @@ TEST(GuidItemList, AHiddenVersionZeroStillGivesItsString)
     QString deviceType;
     EXPECT_TRUE(list.deviceTypeOnGuid(0xC7000105, deviceType));
     EXPECT_EQ(deviceType, QStringLiteral("Hidden"));
+    EXPECT_EQ(list.deviceTypes(), QStringList{QStringLiteral("Hidden")});
+}
+
+TEST(GuidItemList, KnowsNoOtherGuidThanThoseOfItsItems)
+{
+    List list;
+    add(list, 0xC7010105);
+    EXPECT_TRUE(list.isKnownGuid(0xC7010105));
+    EXPECT_FALSE(list.isKnownGuid(0xC7010205)) << "a version that is not described";
+    EXPECT_FALSE(list.isKnownGuid(0xC7020105)) << "other bits 16 to 23";
+    EXPECT_FALSE(list.isKnownGuid(0xC6010105)) << "another prefix";
 }
 
 TEST(GuidItemList, TheLastVisibleItemOfATypeDecidesItsBaseGuid)

@@ -39,16 +39,19 @@ QString const world = QStringLiteral(
     "CREATE TABLE Speakers (SpeakerId INTEGER, Name TEXT, Class INTEGER, Rib INTEGER, DisplayNameShort TEXT, "
     "SortOrder "
     "INTEGER, CablefitMaxCount INTEGER, WfActive INTEGER);"
-    "INSERT INTO Speakers VALUES (12, 'A', 0, 0, 'A', 1, 6, 0), (13, 'B', 0, 0, 'B', 2, 0, 0);"
+    "INSERT INTO Speakers VALUES (12, 'A', 0, 0, 'A', 1, 6, 0), (13, 'B', 0, 0, 'B', 2, 0, 0),"
+    " (14, 'C', 0, 0, 'C', 3, 0, 0), (15, 'D', 0, 0, 'D', 4, 0, 0);"
     "CREATE TABLE GuidsSpeakersFilters (GUID TEXT, SpeakerId INTEGER, FilterId INTEGER, Access INTEGER);"
     "INSERT INTO GuidsSpeakersFilters VALUES ('C7000005', 12, 11, 1), ('C7000005', 12, 21, 1), ('C7000005', "
     "13, 12, 1),"
-    " ('C7000005', 12, 1, 1);"
+    " ('C7000005', 12, 1, 1), ('C7000005', 14, 13, 1), ('C7000005', 14, 22, 1), ('C7000005', 15, 14, 1);"
     "CREATE TABLE Filters (Id INTEGER, Number INTEGER, Type INTEGER, Min REAL, Max REAL, DisplayNameShort "
     "TEXT, "
     "TextOffset INTEGER, StateTexts TEXT);"
     "INSERT INTO Filters VALUES (11, 1, 0, 0, 5, 'Shelf', 0, ''), (21, 2, 0, 0, 1, 'Switch', 0, ''),"
-    " (12, 1, 0, 0, 1, 'On', 0, ''), (1, 0, 0, 2, 4, 'Zero', 0, '');");
+    " (12, 1, 0, 0, 1, 'On', 0, ''), (1, 0, 0, 2, 4, 'Zero', 0, ''),"
+    " (13, 1, 0, 5, 0, 'Falling', 0, ''), (22, 2, 0, 1, 0, 'Inverse', 0, ''), (14, 1, 0, 2, 3, 'Raised', 0, "
+    "'');");
 
 struct ObjectCache : ::testing::Test {
     ObjectCache()
@@ -58,6 +61,8 @@ struct ObjectCache : ::testing::Test {
         cache.setGuidSupportedLevel(1);
         speaker12.SetSpeakerId(12);
         speaker13.SetSpeakerId(13);
+        speaker14.SetSpeakerId(14);
+        speaker15.SetSpeakerId(15);
     }
 
     CDriverCacheObjectItem * find(char const * name, CDeviceChannelInfo * channel = nullptr)
@@ -78,6 +83,8 @@ struct ObjectCache : ::testing::Test {
     ExposedCache cache;
     CDeviceChannelInfo speaker12;
     CDeviceChannelInfo speaker13;
+    CDeviceChannelInfo speaker14;
+    CDeviceChannelInfo speaker15;
 };
 
 } // namespace
@@ -217,6 +224,12 @@ TEST_F(ObjectCache, AdjustsFiltersToTheSpeaker)
         {"a toggle stays one", "Config_Filter1", &speaker13, "On", 0, 1, CObjectDef::ObjectTypeToggle},
         {"a number becomes a toggle", "Config_Filter2", &speaker12, "Switch", 0, 1,
          CObjectDef::ObjectTypeToggle},
+        {"a toggle with falling limits becomes a number", "Config_Filter1", &speaker14, "Falling", 5, 0,
+         CObjectDef::ObjectTypeNumber},
+        {"a number with falling limits becomes a toggle", "Config_Filter2", &speaker14, "Inverse", 1, 0,
+         CObjectDef::ObjectTypeToggle},
+        {"a toggle of two other states stays one", "Config_Filter1", &speaker15, "Raised", 2, 3,
+         CObjectDef::ObjectTypeToggle},
         {"no filter in the slot", "Config_Filter2", &speaker13, "", 0, 9, CObjectDef::ObjectTypeNumber},
         {"another sort of channel", "Config_Filter1", &output, "", 0, 1, CObjectDef::ObjectTypeToggle},
         {"no channel", "Config_Filter1", nullptr, "", 0, 1, CObjectDef::ObjectTypeToggle},
@@ -260,11 +273,22 @@ TEST_F(ObjectCache, LimitsTheStepOfFlaggedObjects)
     EXPECT_EQ(find("Stepped", &speaker12)->step(), 1.0);
 }
 
+TEST_F(ObjectCache, MakesNoItemOfAnObjectThatIsMissing)
+{
+    CDriverCacheObjectItem sentinel;
+    CDriverCacheObjectItem * item = &sentinel;
+    CDriverCacheKeyName missing(device, QStringLiteral("Missing"));
+    EXPECT_FALSE(cache.createDriverCacheObjectItem(item, &missing));
+    EXPECT_EQ(item, &sentinel);
+}
+
 TEST_F(ObjectCache, WarnsOfANullKey)
 {
     MessageRecorder recorder;
-    CDriverCacheObjectItem * item = nullptr;
+    CDriverCacheObjectItem sentinel;
+    CDriverCacheObjectItem * item = &sentinel;
     EXPECT_FALSE(cache.createDriverCacheObjectItem(item, nullptr));
+    EXPECT_EQ(item, &sentinel);
     EXPECT_EQ(recorder.messages(),
               QStringList{
                   QStringLiteral("warning: Invalid param 'key' (nullptr) in "
@@ -282,6 +306,45 @@ TEST_F(ObjectCache, KeepsTheFirstItemOfAKey)
     EXPECT_TRUE(cache.addObjectItem(&name, nullptr));
     EXPECT_EQ(find("Gain"), item);
     EXPECT_EQ(find(0x0105), item);
+}
+
+TEST(ObjectItemList, PutsTheItemOfANumberInThePlaceOfItsName)
+{
+    CDriverCacheObjectItemList list;
+    CDriverCacheKeyName byName(device, QStringLiteral("Gain"));
+    CDriverCacheKeyObject byNumber(device, 0x2105);
+    auto const first = std::make_unique<CDriverCacheObjectItem>(); // in nobody's hands once it is replaced
+    first->setName(QStringLiteral("Gain"));
+    first->SetBoxNumber(1);
+    first->SetObjectNumber(5);
+    auto * const second = new CDriverCacheObjectItem(*first);
+    CDriverCacheObjectItem * found = nullptr;
+
+    EXPECT_TRUE(list.AddObjectItem(&byName, first.get()));
+    EXPECT_EQ(list.GetDriverObject(found, &byName), GetItemFound);
+    EXPECT_EQ(found, first.get());
+    EXPECT_TRUE(list.AddObjectItem(&byNumber, second));
+    EXPECT_EQ(list.GetDriverObject(found, &byName), GetItemFound);
+    EXPECT_EQ(found, second);
+    CDriverCacheKeyObject firstNumber(device, 0x0105);
+    EXPECT_EQ(list.GetDriverObject(found, &firstNumber), GetItemFound);
+    EXPECT_EQ(found, first.get());
+}
+
+TEST(ObjectItemList, FindsANameThatWasMissingOnceItsNumberIsThere)
+{
+    CDriverCacheObjectItemList list;
+    CDriverCacheKeyName byName(device, QStringLiteral("Gain"));
+    CDriverCacheKeyObject byNumber(device, 0x0105);
+    CDriverCacheObjectItem * found = nullptr;
+    EXPECT_TRUE(list.AddObjectItem(&byName, nullptr));
+    EXPECT_EQ(list.GetDriverObject(found, &byName), GetItemNotAvailable);
+
+    auto * const item = new CDriverCacheObjectItem;
+    item->setName(QStringLiteral("Gain"));
+    EXPECT_TRUE(list.AddObjectItem(&byNumber, item));
+    EXPECT_EQ(list.GetDriverObject(found, &byName), GetItemFound);
+    EXPECT_EQ(found, item);
 }
 
 TEST(ObjectItem, IsEqualInWhatTheDatabaseSays)
