@@ -11,6 +11,8 @@ enum SpeakerType : qint32 {
     SpeakerTypeTwoWay = 4,        ///< on a pair of channels, one for each way
 };
 
+Q_DECLARE_OPERATORS_FOR_FLAGS(QFlags<SpeakerType>)
+
 /// The members of a speaker definition that a caller is interested in. Passed as QFlags. The catalogue takes
 /// the mask and always delivers whole definitions: there are no partial ones.
 enum SpeakerDefMask : qint32 {
@@ -18,5 +20,7 @@ enum SpeakerDefMask : qint32 {
     SpeakerDefIsWFSetup = 0x200,
     SpeakerDefAll = 0x3FF,
 };
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(QFlags<SpeakerDefMask>)
 
 } // namespace kestrova::Morvel::Devicelore
