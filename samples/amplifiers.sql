@@ -206,7 +206,8 @@ INSERT INTO Objects (id, Name, BoxNumber, ObjectNumber, Format, Min, Max, Step, 
     (202, 'Config_SpeakerId',             2,  2, '%3u', 0, 511, 1, 2, 0x03, 12, '71',  0, 'Speaker'),
     -- On a speaker the maximum is that speaker's Cablefit count; on 71, which has none, both ends are 0.
     (203, 'Config_CablefitSpeakerCount',  2,  3, '%2U', 1,  20, 1, 1, 0x03, 11, '1',   0, 'Speakers in line'),
-    -- Known by the hash of its name: always shown as fixed, though it may be written.
+    -- Known by the hash of its name, 261647397: always shown as fixed, though it may be written. Other names
+    -- have this hash too; this is the one that the samples use.
     (204, 'Config_InputRateLevel_Enable', 2,  4, '%1U', 0,   1, 1, 1, 0x03, 11, '0',   0, 'Input rate follows level'),
     -- The seven filter slots. On a speaker each takes name and limits of the speaker's filter.
     (211, 'Config_Filter1',               2, 11, '%1U', 0,   1, 1, 1, 0x03, 11, '0',   0, 'Filter 1'),

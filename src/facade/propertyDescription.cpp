@@ -15,7 +15,7 @@ namespace {
 constexpr quint32 firstFilterHash = 10110129; // "Config_Filter1"
 constexpr quint32 lastFilterHash = 10110135;  // "Config_Filter7"
 constexpr quint32 speakerIdHash = 44682004;   // "Config_SpeakerId"
-constexpr quint32 fixedHash = 261647397;      // "Config_InputRateLevel_Enable"
+constexpr quint32 fixedHash = 261647397;      // such as "Config_InputRateLevel_Enable"
 
 struct ControlRow {
     CObjectDef::ObjectType type;
