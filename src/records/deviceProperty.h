@@ -59,7 +59,7 @@ public:
     /// The kind of control, by the numbers of BasicControlType. To this record they are just numbers.
     enum SimpleControlType : qint32 {};
 
-    explicit CDeviceProperty(QObject * parent = nullptr);
+    CDeviceProperty(QObject * parent = nullptr);
 
     /// Of the key, only the CKey part is copied, as in assignment and setKey().
     CDeviceProperty(CDeviceProperty const & other);

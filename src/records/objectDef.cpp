@@ -21,7 +21,8 @@ void CObjectDef::setOcaClassId(unsigned short const * ids, unsigned char count)
     if (ids == nullptr)
         return;
     auto const bytes = static_cast<unsigned char>(count * sizeof(*ids)); // 8 bits on purpose, see the header
-    std::memcpy(ocaClassId_, ids, std::min<std::size_t>(bytes, sizeof(ocaClassId_)));
+    // The record's own array may be given, which is empty by now.
+    std::memmove(ocaClassId_, ids, std::min<std::size_t>(bytes, sizeof(ocaClassId_)));
     ocaClassIdSize_ = count;
 }
 

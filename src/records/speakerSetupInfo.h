@@ -21,7 +21,7 @@ namespace kestrova::Morvel::Devicelore {
 class KESTROVA_DEVICELORE_EXPORT CSpeakerSetupInfo : public QObject {
 public:
     /// One way, empty lists, all else 0 or empty.
-    explicit CSpeakerSetupInfo(QObject * parent = nullptr);
+    CSpeakerSetupInfo(QObject * parent = nullptr);
 
     /// One way, of that setup name and class.
     CSpeakerSetupInfo(unsigned short speakerId, QString const & setupName, QString const & displayNameShort,

@@ -2,10 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+#include <utility>
+
 using namespace kestrova::Morvel::Devicelore;
 
 static_assert(sizeof(DeviceChannel) == 4 && DeviceChannel(-1) < 0);
 static_assert(sizeof(DeviceChannelType) == 4 && DeviceChannelType(-1) < 0);
+
+// Stepping is a statement, no expression.
+static_assert(std::is_void_v<decltype(++std::declval<DeviceChannel &>())>);
+static_assert(std::is_void_v<decltype(--std::declval<DeviceChannel &>())>);
+static_assert(std::is_void_v<decltype(++std::declval<DeviceChannelType &>())>);
+static_assert(std::is_void_v<decltype(--std::declval<DeviceChannelType &>())>);
 
 TEST(DeviceChannel, HasItsNumbers)
 {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -47,6 +48,8 @@ CDeviceProperty described()
 }
 
 } // namespace
+
+static_assert(std::is_convertible_v<QObject *, CDeviceProperty>);
 
 TEST(DeviceProperty, StartsEmptyWithAValidRecord)
 {
@@ -172,6 +175,11 @@ TEST(DeviceProperty, TakesAKeyWithoutADisplayName)
     EXPECT_FALSE(property.CheckValidMembers(Member(0x40)));
     EXPECT_TRUE(property.key() == exampleKey());
     EXPECT_EQ(property.displayName(), QString());
+
+    CDeviceProperty shown = described();
+    shown.setKey(CDevicePropertyKey());
+    EXPECT_EQ(shown.uniquePropertyName(), QString());
+    EXPECT_EQ(shown.displayName(), QStringLiteral("Frequency")) << "which stays";
 }
 
 TEST(DeviceProperty, KeepsItsOwnDeviceWhenKeyOrRecordIsAssigned)
@@ -247,12 +255,34 @@ TEST(DeviceProperty, WarnsOfNothingElse)
     kestrova::test::MessageRecorder const recorder;
     CDeviceProperty property;
     property.setValidMembers(QFlags<Member>());
+    property.validMembers();
+    property.key();
+    property.GetDevice();
+    property.deviceId();
+    property.deviceChannel();
+    property.record();
+    property.uniquePropertyName();
+    property.displayName();
+    property.subName();
     property.value();
     property.minValue();
+    property.maxValue();
+    property.step();
+    property.decimals();
     property.unit();
     property.propertyType();
+    property.flags();
     EXPECT_TRUE(property == CDeviceProperty(property));
     EXPECT_EQ(recorder.messages(), QStringList());
+}
+
+TEST(DeviceProperty, KeepsItsMembersWhateverIsValid)
+{
+    CDeviceProperty property = described();
+    property.setValidMembers(QFlags<Member>());
+    EXPECT_EQ(bits(property.validMembers()), 0U);
+    property.setValidMembers(described().validMembers());
+    EXPECT_TRUE(property == described());
 }
 
 TEST(DeviceProperty, IsUnequalWhenAnyMemberDiffers)

@@ -58,6 +58,8 @@ TEST(DriverPropertyTarget, CopiesTheQualifierPointedTo)
     CDriverPropertyTarget const withOutput = target(&output);
     EXPECT_EQ(withOutput.GetDeviceChannelInfo()->GetChannelType(), ChannelTypeOutput);
     EXPECT_NE(withOutput.GetDeviceChannelInfo(), &output);
+    EXPECT_EQ(withOutput.guid().value(), 0xC7010205U);
+    EXPECT_EQ(withOutput.propertyName(), name);
     EXPECT_EQ(withOutput.deviceChannel(), 3);
     EXPECT_EQ(withOutput.recordNumber(), 9);
 
@@ -75,6 +77,14 @@ TEST(DriverPropertyTarget, KeepsItsQualifierWhenNoneIsSet)
     CDeviceChannelInfo input(ChannelTypeInput);
     changed.SetDeviceChannelInfo(&input);
     EXPECT_EQ(changed.GetDeviceChannelInfo()->GetChannelType(), ChannelTypeInput);
+}
+
+TEST(DriverPropertyTarget, HasNoSpeakerOnAnotherSide)
+{
+    CDeviceChannelInfo output;
+    output.SetSpeakerId(37);
+    output.SetDeviceChannelType(ChannelTypeOutput);
+    EXPECT_EQ(target(&output).speakerId(), 0) << "though the qualifier still holds the id";
 }
 
 TEST(DriverPropertyTarget, SetsEachField)

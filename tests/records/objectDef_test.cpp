@@ -82,6 +82,14 @@ TEST(ObjectDef, StartsEmptyWithAStepOfOneAndNoType)
     EXPECT_EQ(object.propertyHash(), 0U);
 }
 
+TEST(ObjectDef, EmptiesItsClassIdWhenItIsGivenItsOwn)
+{
+    CObjectDef object = filled();
+    object.setOcaClassId(object.ocaClassId(), 2);
+    EXPECT_EQ(ocaClassId(object), noOcaClassId);
+    EXPECT_EQ(object.ocaClassIdSize(), 2);
+}
+
 TEST(ObjectDef, TakesItsFlagsWhenItIsMade)
 {
     EXPECT_EQ(CObjectDef(0xFFFF).flags(), 0xFFFF);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -46,6 +47,8 @@ CSpeakerSetupInfo twoWays()
 
 } // namespace
 
+static_assert(std::is_convertible_v<QObject *, CSpeakerSetupInfo>);
+
 TEST(SpeakerSetupInfo, StartsWithOneWayAndEmptyLists)
 {
     QObject parent;
@@ -77,6 +80,10 @@ TEST(SpeakerSetupInfo, IsMadeOfOneWay)
     EXPECT_EQ(info.sortOrder(), 0);
     EXPECT_EQ(info.cablefitMaxCount(), 0);
     EXPECT_EQ(info.flags(), 0);
+
+    QObject parent;
+    CSpeakerSetupInfo const child(37, QString(), QString(), speakerClass(2), &parent);
+    EXPECT_EQ(child.parent(), &parent);
 }
 
 TEST(SpeakerSetupInfo, TakesItsWaysFromDefinitions)
