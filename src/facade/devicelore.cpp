@@ -26,14 +26,16 @@ CDevicelore::CDevicelore(QPointer<CDriverCache> driverCache, QObject * parent)
 
 CDevicelore::~CDevicelore()
 {
-    cache->clear();
+    if (cache != nullptr)
+        cache->clear();
     delete cache;
     cache = nullptr;
 }
 
 void CDevicelore::databaseInfos(QList<CDriverDatabaseInfo> & list) const
 {
-    cache->databaseInfos(list);
+    if (cache != nullptr)
+        cache->databaseInfos(list);
     GetDspDataDatabaseInfos(list);
 }
 

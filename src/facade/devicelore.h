@@ -67,9 +67,9 @@ public:
     /// converted stays. Whether all could be.
     virtual bool realToDevice(CObjectDef & object);
 
-    /// Makes a raw value a real one: a double of an int, an unsigned or a double (cut to 32 bits first), a
-    /// text of a text. False, with \a value as it was, when the format cannot print it, and for a text of an
-    /// object whose flags, if known, have 0x400.
+    /// Makes a raw value a real one: a double of an int, an unsigned or a double (rounded to a 32-bit int
+    /// first), a text of a text. False, with \a value as it was, when the format cannot print it, and for a
+    /// text of an object whose flags, if known, have 0x400.
     ///
     /// Two answers mislead: the bytes of a text object become a text, with the result false; and a
     /// hexadecimal object's value is overwritten even when the result is false.
@@ -183,7 +183,8 @@ public:
                             CDeviceChannelInfo const * channelInfo) const;
 
     /// The kind of control, and in \a writable whether the access level allows to set the value. ControlNone,
-    /// with \a writable untouched, when there is no such object on that very GUID.
+    /// with \a writable untouched, when there is no such object on that very GUID. Any channel information
+    /// will do, also one that has no property.
     BasicControlType DetermineSimpleControlType(CDeviceGuid const & guid, QString const & name,
                                                 bool & writable,
                                                 CDeviceChannelInfo const * channelInfo) const;
@@ -200,7 +201,8 @@ public:
                            CDeviceChannelInfo const * channelInfo) const;
 
     /// validateValue(), rounding to the step, for callers that have only a name. The GUID may be of any
-    /// version. Invalid, with \a value as it was, when there is no such object.
+    /// version, and the channel information any. Invalid, with \a value as it was, when there is no such
+    /// object.
     ValidationState AdjustDeviceProperty(CDeviceGuid const & guid, QString const & name, QVariant & value,
                                          CDeviceChannelInfo const * channelInfo) const;
 
@@ -325,7 +327,9 @@ protected:
     /// Appends a description of the speaker DSP database. Nothing when it does not open.
     void GetDspDataDatabaseInfos(QList<CDriverDatabaseInfo> & list) const;
 
-    /// Never null. A plain pointer on purpose: the facade owns the cache and counts no other users.
+    /// Never null once the facade is constructed. A subclass that takes it away can still be destroyed, and
+    /// ask for the databases and CheckChannelInfo(). A plain pointer on purpose: the facade owns the cache
+    /// and counts no other users.
     CDriverCache * cache = nullptr;
 
 private:

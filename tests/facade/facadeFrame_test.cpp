@@ -25,6 +25,7 @@ class Facade : public CDevicelore {
 public:
     using CDevicelore::cache;
     using CDevicelore::CDevicelore;
+    using CDevicelore::CheckChannelInfo;
 };
 
 } // namespace
@@ -112,6 +113,20 @@ TEST(FacadeFrame, TwoFacadesMayShareACacheWhileNeitherIsDestroyed)
 
     first.reset(); // takes the cache with it
     second.cache = new CDriverCache;
+}
+
+TEST(FacadeFrame, BearsWithASubclassThatTakesItsCacheAway)
+{
+    auto facade = std::make_unique<Facade>();
+    delete facade->cache;
+    facade->cache = nullptr;
+    QList<CDriverDatabaseInfo> infos{CDriverDatabaseInfo()};
+    facade->databaseInfos(infos);
+    EXPECT_EQ(infos.size(), 1);
+    CDeviceChannelInfo speaker;
+    speaker.SetSpeakerId(65535);
+    EXPECT_TRUE(facade->CheckChannelInfo(&speaker, "here")) << "nobody knows any bounds";
+    facade.reset();
 }
 
 TEST(FacadeFrame, StartsAtLevelOneWhateverTheCacheHas)
