@@ -96,6 +96,9 @@ bool CDevicelore::devicePropertyInfo(CDeviceGuid const & guid, CDeviceProperty &
     return true;
 }
 
+// The channel is no gate here, nor in AdjustDeviceProperty(): the object alone decides, so that an
+// application can still show and correct what was stored for a speaker that the databases do not know any
+// more.
 BasicControlType CDevicelore::DetermineSimpleControlType(CDeviceGuid const & guid, QString const & name,
                                                          bool & writable,
                                                          CDeviceChannelInfo const * channelInfo) const

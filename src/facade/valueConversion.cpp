@@ -213,6 +213,8 @@ CDevicelore::ValidationState CDevicelore::validateValue(QVariant & value, CObjec
     }
 }
 
+// As with DetermineSimpleControlType(), and unlike the other questions about properties, the channel is no
+// gate.
 CDevicelore::ValidationState CDevicelore::AdjustDeviceProperty(CDeviceGuid const & guid, QString const & name,
                                                                QVariant & value,
                                                                CDeviceChannelInfo const * channelInfo) const

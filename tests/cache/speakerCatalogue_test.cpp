@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <type_traits>
 
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
@@ -83,6 +84,11 @@ Ids fitting(List & list, int types, int mode)
 }
 
 } // namespace
+
+static_assert(
+    std::is_same_v<decltype(SpeakerTypeFirstChannel | SpeakerTypeSecondChannel), QFlags<SpeakerType>>);
+static_assert(
+    std::is_same_v<decltype(SpeakerDefCablefitMaxCount | SpeakerDefIsWFSetup), QFlags<SpeakerDefMask>>);
 
 TEST_F(Speakers, AreReadWithTheirClasses)
 {

@@ -287,6 +287,29 @@ TEST(ValidatedSpeaker, IsFoundAlthoughTheDevicesSpeakersWereNotReadYet)
     EXPECT_EQ(world.cache.speakerItems->listSpeakersForDevice(hesko, ids), TharnNoError);
 }
 
+TEST(ValidatedSpeaker, ZeroIsKeptWhereItIsListed)
+{
+    ModelWorld world;
+    CDeviceGuid const hesko(0xC7000012);
+    EXPECT_EQ(said(world.cache.validateSpeakerId(target(0xC7000012, 1, 0), OutputMode(1))), "int 71");
+    auto * const nought = new CSpeakerDef;
+    CSpeakerClass firstChannelClass;
+    firstChannelClass.classNumber = 0;
+    nought->setSpeakerClass(firstChannelClass);
+    ASSERT_TRUE(world.cache.speakerItems->addSpeakerItem(nought));
+    world.cache.speakerItems->addToSupportedList(hesko, 0);
+    EXPECT_EQ(said(world.cache.validateSpeakerId(target(0xC7000012, 1, 0), OutputMode(1))), "int 0");
+}
+
+TEST(ValidatedSpeaker, OfAModelThatTakesAnyIsGivenWithoutALookAtAList)
+{
+    ModelWorld world;
+    CDeviceGuid const zerin(0xC7000006);
+    EXPECT_EQ(said(world.cache.validateSpeakerId(target(0xC7000006, 1, 42), OutputMode(0))), "int 42");
+    QList<unsigned short> ids;
+    EXPECT_EQ(world.cache.speakerItems->listSpeakersForDevice(zerin, ids), TharnNotFound);
+}
+
 TEST(ValidatedSpeaker, OfAVersionThatIsNotDescribedIsTheDefault)
 {
     ModelWorld world;

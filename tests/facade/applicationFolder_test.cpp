@@ -138,12 +138,16 @@ TEST_F(ApplicationFolder, ListsTheDspDatabaseLast)
 
 TEST_F(ApplicationFolder, ListsADspDatabaseWithoutVersionAsZero)
 {
-    makeDspData("CREATE TABLE Other (x);");
-    Facade const facade;
-    QList<CDriverDatabaseInfo> infos;
-    facade.GetDspDataDatabaseInfos(infos);
-    ASSERT_EQ(infos.size(), 1);
-    EXPECT_EQ(infos.first().versionNumber(), CVersionNumber(0, 0, 0));
+    for (char const * sql : {"CREATE TABLE Other (x);", "CREATE TABLE Version (a, b, c);"}) {
+        removeAll();
+        makeDspData(sql);
+        Facade const facade;
+        QList<CDriverDatabaseInfo> infos;
+        facade.GetDspDataDatabaseInfos(infos);
+        ASSERT_EQ(infos.size(), 1) << sql;
+        EXPECT_EQ(infos.first().name(), dspConnection) << sql;
+        EXPECT_EQ(infos.first().versionNumber(), CVersionNumber(0, 0, 0)) << sql;
+    }
 }
 
 TEST_F(ApplicationFolder, WithoutADspDatabaseThereIsNoLine)

@@ -1,3 +1,4 @@
+#include "cache/driverCacheKey.h"
 #include "cache/driverCacheObjectItem.h"
 #include "facade/devicelore.h"
 #include "support/databaseFolder.h"
@@ -84,17 +85,45 @@ struct Lookup : ::testing::Test {
     Facade facade;
 };
 
-/// Answers every lookup with one result, and with an item of its own or none.
+/// Answers every lookup with one result, and with an item of its own or none, and has speakers from 5 to 9.
+/// Notes what it is asked.
 class AnsweringCache : public CDriverCache {
 public:
-    GetItemReturnValue GetDriverObject(CDriverCacheObjectItem *& item, CDriverCacheKey *) override
+    GetItemReturnValue GetDriverObject(CDriverCacheObjectItem *& item, CDriverCacheKey * key) override
     {
+        keys.append(key->key());
         item = given;
         return result;
     }
 
+    unsigned short minSpeakerId() const override { return 5; }
+
+    unsigned short maxSpeakerId() const override { return 9; }
+
+    TharnError speakerDef(unsigned short speakerId, QList<CSpeakerDef> & definitions,
+                          QFlags<SpeakerDefMask> mask) override
+    {
+        speakerQuestions.append(QStringLiteral("%1, mask %2").arg(speakerId).arg(int(mask), 0, 16));
+        definitions += givenSpeakers;
+        return TharnNoError;
+    }
+
     CDriverCacheObjectItem * given = nullptr;
     GetItemReturnValue result = GetItemNotCached;
+    QList<CSpeakerDef> givenSpeakers;
+    QStringList keys;
+    QStringList speakerQuestions;
+};
+
+/// A facade on such a cache.
+struct Answers : ::testing::Test {
+    Answers()
+        : cache(new AnsweringCache)
+        , facade(QPointer<CDriverCache>(cache), nullptr)
+    {}
+
+    AnsweringCache * cache;
+    Facade facade;
 };
 
 } // namespace
@@ -165,7 +194,16 @@ TEST_F(Lookup, TwinsDifferInTheErrorOfAMissingObject)
     EXPECT_EQ(target.name(), QStringLiteral("before"));
 }
 
-TEST(LookupResults, AreMappedByEachTwinInItsOwnWay)
+TEST_F(Lookup, ByNumberThatFailsLeavesTheMask)
+{
+    CObjectDef target = asking(0x10);
+    target.setName(QStringLiteral("before"));
+    EXPECT_EQ(facade.GetObjectDef(device, quint16(0x0109), target, nullptr), TharnFailed);
+    EXPECT_EQ(quint32(target.mask()), 0x10U);
+    EXPECT_EQ(target.name(), QStringLiteral("before"));
+}
+
+TEST_F(Answers, AreMappedByEachTwinInItsOwnWay)
 {
     struct Row {
         GetItemReturnValue result;
@@ -184,8 +222,6 @@ TEST(LookupResults, AreMappedByEachTwinInItsOwnWay)
         {GetItemNotAvailable, true, TharnNotAvailable, TharnFailed},
         {GetItemReturnValue(7), true, TharnFailed, TharnFailed},
     };
-    auto * const cache = new AnsweringCache;
-    CDevicelore const facade(QPointer<CDriverCache>(cache), nullptr);
     for (Row const & row : rows) {
         cache->result = row.result;
         cache->given = row.withItem ? &item : nullptr;
@@ -264,6 +300,52 @@ TEST_F(Lookup, ReplacesTheDelayWithoutComparing)
     EXPECT_EQ(value, QVariant(400));
 }
 
+TEST_F(Answers, AboutTheSpeakerAreAskedForOnlyWhenTheMinimumIsWanted)
+{
+    CDriverCacheObjectItem delay;
+    delay.setName(QStringLiteral("ChStatus_MsDelay"));
+    CSpeakerDef wave;
+    wave.setIsWFSetup(true);
+    cache->given = &delay;
+    cache->result = GetItemFound;
+    cache->givenSpeakers.append(wave);
+    CDeviceChannelInfo const channel = speaker(7);
+
+    CObjectDef allButTheMinimum = asking(~0x10U);
+    EXPECT_EQ(facade.GetObjectDef(device, delay.name(), allButTheMinimum, &channel), TharnNoError);
+    EXPECT_EQ(facade.GetObjectDef(device, quint16(1), allButTheMinimum, &channel), TharnNoError);
+    EXPECT_EQ(cache->speakerQuestions, QStringList());
+
+    CObjectDef minimum = asking(0x10);
+    EXPECT_EQ(facade.GetObjectDef(device, delay.name(), minimum, &channel), TharnNoError);
+    EXPECT_EQ(minimum.minValue(), 6.2);
+    EXPECT_EQ(facade.GetObjectDef(device, quint16(1), minimum, &channel), TharnNoError);
+    EXPECT_EQ(cache->speakerQuestions,
+              (QStringList{QStringLiteral("7, mask 200"), QStringLiteral("7, mask 200")}));
+}
+
+TEST_F(Answers, WithoutADefinitionMakeNoWavefoldSpeaker)
+{
+    QVariant value(400);
+    EXPECT_FALSE(facade.CorrectDelayValueForWFSpeaker(12, value));
+    EXPECT_EQ(value, QVariant(400));
+    EXPECT_EQ(cache->speakerQuestions, QStringList{QStringLiteral("12, mask 200")});
+}
+
+TEST_F(Answers, SetTheBoundsOfSpeakers)
+{
+    struct Row {
+        unsigned short id;
+        bool isPossible;
+    };
+
+    for (Row const & row : {Row{4, false}, Row{5, true}, Row{9, true}, Row{10, false}}) {
+        CDeviceChannelInfo const channel = speaker(row.id);
+        EXPECT_EQ(facade.CheckChannelInfo(&channel, "here"), row.isPossible) << row.id;
+    }
+    EXPECT_EQ(cache->speakerQuestions, QStringList()) << "whoever they are";
+}
+
 TEST_F(Lookup, ChecksAChannel)
 {
     MessageRecorder recorder;
@@ -289,6 +371,13 @@ TEST_F(Lookup, TellsNamesAndNumbersOfObjects)
     EXPECT_TRUE(facade.objectName(device, 0x0109).isNull());
     EXPECT_EQ(facade.objectNumber(device, QStringLiteral("Gain")), 0x0105);
     EXPECT_EQ(facade.objectNumber(device, QStringLiteral("Missing")), 65535);
+}
+
+TEST_F(Answers, AreAskedForByNumbersAsTheyAre)
+{
+    facade.objectName(device, 0x2105);
+    facade.objectName(device, 0x0105);
+    EXPECT_EQ(cache->keys, (QStringList{QStringLiteral("C7000005_2105"), QStringLiteral("C7000005_0105")}));
 }
 
 TEST_F(Lookup, TellsTheGuidsOfADeviceType)

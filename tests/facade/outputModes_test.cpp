@@ -217,12 +217,15 @@ TEST(SpeakerSetupQuestion, AsksForAllMembersThroughTheReplaceableOperation)
         {
             listWasEmpty = definitions.isEmpty();
             askedMask = int(mask);
-            definitions.append(CSpeakerDef());
-            return TharnNoError;
+            CSpeakerDef definition;
+            definition.setFlags(0xA5);
+            definitions.append(definition);
+            return result;
         }
 
         bool listWasEmpty = false;
         int askedMask = 0;
+        TharnError result = TharnNoError;
     };
 
     auto * const cache = new AskedCache;
@@ -232,4 +235,10 @@ TEST(SpeakerSetupQuestion, AsksForAllMembersThroughTheReplaceableOperation)
     EXPECT_TRUE(cache->listWasEmpty);
     EXPECT_EQ(cache->askedMask, 0x3FF);
     EXPECT_EQ(info.sortOrder(), -1) << "taken from the definition";
+    EXPECT_EQ(info.flags(), 0xA5) << "also those that mean nothing here";
+
+    CSpeakerSetupInfo const before(info);
+    cache->result = TharnNotAvailable;
+    EXPECT_FALSE(facade.SpeakerSetupInfo(6, info)) << "although there is a definition";
+    EXPECT_EQ(info, before);
 }

@@ -96,16 +96,41 @@ struct Description : ::testing::Test {
     std::unique_ptr<CDevicelore> facade;
 };
 
-/// Answers every lookup with one item.
+/// Answers every lookup with one item, and every question about a filter or a speaker in one way. Its
+/// speakers go from 5 to 9. Notes what it is asked.
 class OneItemCache : public CDriverCache {
 public:
     GetItemReturnValue GetDriverObject(CDriverCacheObjectItem *& item, CDriverCacheKey *) override
     {
+        ++lookups;
         item = &given;
         return GetItemFound;
     }
 
+    QString filterName(CDeviceGuid const &, CDeviceChannelInfo const * channel, unsigned char number) override
+    {
+        questions.append(QStringLiteral("filter %1").arg(number));
+        filterChannel = channel;
+        return QStringLiteral("Shelf");
+    }
+
+    unsigned short minSpeakerId() const override { return 5; }
+
+    unsigned short maxSpeakerId() const override { return 9; }
+
+    TharnError speakerDef(unsigned short speakerId, QList<CSpeakerDef> & definitions,
+                          QFlags<SpeakerDefMask> mask) override
+    {
+        questions.append(QStringLiteral("speaker %1, mask %2").arg(speakerId).arg(int(mask), 0, 16));
+        definitions.append(givenSpeaker);
+        return TharnNoError;
+    }
+
     CDriverCacheObjectItem given;
+    CSpeakerDef givenSpeaker;
+    int lookups = 0;
+    QStringList questions;
+    CDeviceChannelInfo const * filterChannel = nullptr;
 };
 
 struct Control : ::testing::Test {
@@ -125,6 +150,22 @@ struct Control : ::testing::Test {
     OneItemCache * cache;
     CDevicelore facade;
     bool writable = false;
+};
+
+struct OnASpeaker : Control {
+    OnASpeaker()
+    {
+        cache->given.setObjectType(CObjectDef::ObjectTypeNumber);
+        cache->given.setMax(500.0);
+        cache->given.setStep(0.1);
+        cache->givenSpeaker.setCablefitMaxCount(3);
+        cache->givenSpeaker.setIsWFSetup(true);
+    }
+
+    bool isSupported(char const * name, CDeviceChannelInfo const & channel)
+    {
+        return facade.IsObjectSupported(device, QLatin1String(name), &channel);
+    }
 };
 
 } // namespace
@@ -474,6 +515,80 @@ TEST_F(Description, SaysWhatASpeakerSupports)
     EXPECT_FALSE(facade->IsObjectSupported(device, QStringLiteral("Wavefold_Width"), &unknown));
     EXPECT_FALSE(facade->IsObjectSupported(laterDevice, QStringLiteral("Gain"), nullptr))
         << "the GUID as it is";
+}
+
+TEST_F(OnASpeaker, OutsideTheBoundsOfTheCachePropertiesAreNotEvenLookedFor)
+{
+    struct Row {
+        unsigned short id;
+        bool isPossible;
+    };
+
+    for (Row const & row : {Row{4, false}, Row{5, true}, Row{9, true}, Row{10, false}}) {
+        SCOPED_TRACE(row.id);
+        CDeviceChannelInfo const channel = speaker(row.id);
+        CDeviceProperty property = propertyNamed("Gain");
+        QVariant min;
+        QVariant max;
+        QVariant step;
+        cache->lookups = 0;
+        EXPECT_EQ(facade.devicePropertyInfo(device, property, &channel), row.isPossible);
+        EXPECT_EQ(facade.GetDevicePropertyRange(device, property, min, max, step, &channel), row.isPossible);
+        EXPECT_EQ(isSupported("Gain", channel), row.isPossible);
+        EXPECT_EQ(cache->lookups, row.isPossible ? 4 : 0);
+    }
+}
+
+TEST_F(OnASpeaker, SupportIsAskedThroughTheReplaceableOperations)
+{
+    CDeviceChannelInfo const channel = speaker(7);
+    EXPECT_TRUE(isSupported("Config_CablefitOn", channel));
+    EXPECT_TRUE(isSupported("ChStatus_CablefitLoad", channel));
+    EXPECT_TRUE(isSupported("Wavefold_Width", channel));
+    EXPECT_TRUE(isSupported("Config_Filter23", channel));
+    EXPECT_EQ(cache->questions,
+              (QStringList{QStringLiteral("speaker 7, mask 80"), QStringLiteral("speaker 7, mask 80"),
+                           QStringLiteral("speaker 7, mask 200"), QStringLiteral("filter 3")}));
+    EXPECT_EQ(cache->filterChannel, &channel);
+}
+
+TEST_F(OnASpeaker, ControlAndAdjustmentKnowNoBounds)
+{
+    CDeviceChannelInfo const cleared;
+    CDeviceChannelInfo const above = speaker(10);
+    for (CDeviceChannelInfo const * const channel : {&cleared, &above}) {
+        EXPECT_EQ(facade.DetermineSimpleControlType(device, QStringLiteral("Gain"), writable, channel),
+                  ControlValue);
+        QVariant value(600);
+        EXPECT_EQ(facade.AdjustDeviceProperty(device, QStringLiteral("Gain"), value, channel),
+                  CDevicelore::AdjustedToMax);
+        EXPECT_EQ(value, QVariant(500.0));
+    }
+}
+
+TEST_F(OnASpeaker, AnAdjustedDelayHasTheMinimumOfAWavefoldSpeaker)
+{
+    CDeviceChannelInfo const wave = speaker(7);
+    CDeviceChannelInfo const input(ChannelTypeInput);
+    CDeviceChannelInfo const output(ChannelTypeOutput);
+
+    struct Row {
+        char const * name;
+        CDeviceChannelInfo const * channel;
+        CDevicelore::ValidationState state;
+        double after;
+    };
+
+    for (Row const & row :
+         {Row{"input", &input, CDevicelore::Valid, 1.0}, Row{"output", &output, CDevicelore::Valid, 1.0},
+          Row{"speaker", &wave, CDevicelore::AdjustedToMin, 6.2}}) {
+        QVariant value(1.0);
+        EXPECT_EQ(facade.AdjustDeviceProperty(device, QStringLiteral("ChStatus_MsDelay"), value, row.channel),
+                  row.state)
+            << row.name;
+        EXPECT_EQ(value, QVariant(row.after)) << row.name;
+    }
+    EXPECT_EQ(cache->questions, QStringList{QStringLiteral("speaker 7, mask 200")});
 }
 
 // --- Adjusting by name ---

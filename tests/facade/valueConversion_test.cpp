@@ -74,7 +74,10 @@ TEST(DeviceToReal, PrintsTheRawValueByTheFormatAndReadsTheText)
     Row const rows[] = {
         {"an int", 1, "%6.2d dB", -1225, true, -12.25},
         {"an unsigned", 1, "%I32u", 4294967295U, true, 4294967295.0},
-        {"a double is cut to an integer", 1, "%6.1d", 123.0, true, 12.3},
+        {"a double", 1, "%6.1d", 123.0, true, 12.3},
+        {"a double is rounded to an integer, up", 1, "%d", 1.5, true, 2.0},
+        {"a double is rounded to an integer, down", 1, "%d", 1.4, true, 1.0},
+        {"a negative double is rounded too", 1, "%d", -1.6, true, -2.0},
         {"two bytes of the four", 1, "%d", 0x00018000, true, -32768.0},
         {"one byte of the four", 1, "%I8u", 0x1FF, true, 255.0},
         {"on/off", 0, "%I8d", 1, true, 1.0},
@@ -409,6 +412,15 @@ TEST(Validation, OfOnOffValues)
                                            : QStringList())
             << row.name;
     }
+}
+
+TEST(Validation, LogsWithoutSayingWhere)
+{
+    CDevicelore const facade;
+    MessageRecorder const recorder;
+    QVariant value;
+    EXPECT_EQ(facade.validateValue(value, objectOf(0, "%d"), true), CDevicelore::Invalid);
+    EXPECT_EQ(recorder.sources(), QStringList{QString()});
 }
 
 TEST(Validation, OfNumbers)

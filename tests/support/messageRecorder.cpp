@@ -5,6 +5,7 @@ namespace kestrova::test {
 namespace {
 
 QStringList recorded;
+QStringList recordedSources;
 
 QString levelName(QtMsgType type)
 {
@@ -23,9 +24,20 @@ QString levelName(QtMsgType type)
     return QStringLiteral("unknown");
 }
 
-void record(QtMsgType type, QMessageLogContext const &, QString const & text)
+QString sourceOf(QMessageLogContext const & context)
+{
+    if (context.file == nullptr && context.line == 0 && context.function == nullptr)
+        return QString();
+    return QStringLiteral("%1:%2 %3")
+        .arg(QString::fromUtf8(context.file))
+        .arg(context.line)
+        .arg(QString::fromUtf8(context.function));
+}
+
+void record(QtMsgType type, QMessageLogContext const & context, QString const & text)
 {
     recorded.append(levelName(type) + QStringLiteral(": ") + text);
+    recordedSources.append(sourceOf(context));
 }
 
 } // namespace
@@ -33,6 +45,7 @@ void record(QtMsgType type, QMessageLogContext const &, QString const & text)
 MessageRecorder::MessageRecorder()
 {
     recorded.clear();
+    recordedSources.clear();
     previous = qInstallMessageHandler(record);
 }
 
@@ -44,6 +57,11 @@ MessageRecorder::~MessageRecorder()
 QStringList MessageRecorder::messages() const
 {
     return recorded;
+}
+
+QStringList MessageRecorder::sources() const
+{
+    return recordedSources;
 }
 
 } // namespace kestrova::test

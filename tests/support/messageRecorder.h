@@ -16,6 +16,9 @@ public:
     /// Each message as "warning: text", with the level in front.
     QStringList messages() const;
 
+    /// Where each message says that it was logged, as "file:line function"; empty when it does not say.
+    QStringList sources() const;
+
 private:
     QtMessageHandler previous;
 };
