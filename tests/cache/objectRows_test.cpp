@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -386,6 +387,27 @@ TEST(ObjectRow, IsStillReadWhenAnotherCacheHasOpenedTheDatabaseAnew)
     ExposedCache other;
     ASSERT_EQ(other.openDatabases(database.folder.dir()), 1);
     MessageRecorder recorder;
+    EXPECT_EQ(database.read("Gain").step(), 0.5);
+    EXPECT_EQ(recorder.messages(), QStringList());
+}
+
+TEST(ObjectRow, IsReadAgainWhenItsConnectionWasLostAndIsBack)
+{
+    OneDatabase database(guids + newerObjects + wholeObject);
+    EXPECT_EQ(database.read("Gain").step(), 0.5);
+    QString const connection = QStringLiteral("a.db3");
+    QString const path = database.folder.path(connection);
+    MessageRecorder recorder;
+
+    QSqlDatabase::database(connection, false).close();
+    ASSERT_TRUE(QFile::rename(path, path + QStringLiteral(".away")));
+    CObjectDef object;
+    EXPECT_EQ(database.cache.objectFromDb(QStringLiteral("Gain"), guidText, object), TharnFailed);
+    EXPECT_FALSE(QSqlDatabase::contains(connection));
+
+    ASSERT_TRUE(QFile::rename(path + QStringLiteral(".away"), path));
+    ExposedCache other;
+    ASSERT_EQ(other.openDatabases(database.folder.dir()), 1);
     EXPECT_EQ(database.read("Gain").step(), 0.5);
     EXPECT_EQ(recorder.messages(), QStringList());
 }
