@@ -44,6 +44,12 @@ if(NOT count EQUAL 2)
 endif()
 foreach(tool IN LISTS tools)
     run("${tool}" --help)
+    get_filename_component(name "${tool}" NAME)
+    foreach(document "share/man/man1/${name}.1" "share/bash-completion/completions/${name}")
+        if(NOT EXISTS "${prefix}/${document}")
+            message(FATAL_ERROR "${document} is not installed.")
+        endif()
+    endforeach()
 endforeach()
 
 # Each header is enough in itself.

@@ -57,7 +57,8 @@ struct ParsedArguments {
     QStringList values(char const * option) const { return options.value(QLatin1String(option)); }
 };
 
-/// Reads the arguments behind the program's name. Throws Failure with ExitUsage.
+/// Reads the arguments behind the program's name. Beside the tool's own options and --help and --version,
+/// --print-manual-page and --print-completion are for those who package it. Throws Failure with ExitUsage.
 ParsedArguments parseArguments(ToolInterface const & tool, QStringList const & arguments);
 
 /// "NAME PARAMETER...", as a command is called.

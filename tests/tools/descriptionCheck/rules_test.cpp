@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QSet>
 
 using namespace kestrova::authoring;
@@ -38,10 +39,11 @@ std::vector<Row> const & rows()
         {"class-missing", "UPDATE Objects SET ClassId = 9 WHERE id = 1", "", "",
          "a.db3, Objects, ClassId, Power (id 1): there is no class 9 [class-missing]"},
         {"class-not-listed", "INSERT INTO SpeakerClasses VALUES (6, 'Horn', 'Passive', 1, 'Full')", "", "",
-         "a.db3, SpeakerClasses, Ways, class 6: class 6 has 1 ways, and its speakers are offered to pairs of "
+         "a.db3, SpeakerClasses, Ways, class 6: Ways of class 6 is 1, and its speakers are offered to pairs "
+         "of "
          "channels [class-not-listed]"},
         {"class-not-listed", "UPDATE SpeakerClasses SET Ways = 2 WHERE Class = 0", "", "",
-         "a.db3, SpeakerClasses, Ways, class 0: class 0 has 2 ways, and its speakers are offered to single "
+         "a.db3, SpeakerClasses, Ways, class 0: Ways of class 0 is 2, and its speakers are offered to single "
          "channels [class-not-listed]"},
         {"class-twice", "",
          "CREATE TABLE ObjectClasses (Id, OcaClassId, Description); INSERT INTO ObjectClasses VALUES (1, "
@@ -131,9 +133,9 @@ std::vector<Row> const & rows()
          "a.db3, Objects, Format, Trim (id 109): \"%+6.2d \u2126\" has characters beyond Latin-1 "
          "[format-not-latin1]"},
         {"format-size", "UPDATE Objects SET Size = 4 WHERE id = 109", "", "",
-         "a.db3, Objects, Format, Trim (id 109): \"%+6.2d dB\" reads 2 bytes, and Size is 4 [format-size]"},
+         "a.db3, Objects, Format, Trim (id 109): \"%+6.2d dB\" has the size 2, and Size is 4 [format-size]"},
         {"format-step", "UPDATE Objects SET Step = 0.25 WHERE id = 101", "", "",
-         "a.db3, Objects, Format, Gain (id 101): \"%5.1f dB\" shows 1 decimals, and the step is 0.25 "
+         "a.db3, Objects, Format, Gain (id 101): \"%5.1f dB\" has the precision 1, and the step is 0.25 "
          "[format-step]"},
         {"format-step", "UPDATE Objects SET Step = 2.5 WHERE id = 109", "", "",
          "a.db3, Objects, Format, Trim (id 109): \"%+6.2d dB\" counts whole numbers, and the step is 2.5 "
@@ -293,7 +295,7 @@ std::vector<Row> const & rows()
          "a.db3, Guids, DeviceType, C7000112: the model is \"Kalom\" here and \"Hesko\" in C7000012 "
          "[type-two-models]"},
         {"unit-point", "UPDATE Objects SET Format = '%+6.2d V a.c.' WHERE id = 109", "", "",
-         "a.db3, Objects, Format, Trim (id 109): \"%+6.2d V a.c.\" prints 2 decimals and says 0 "
+         "a.db3, Objects, Format, Trim (id 109): \"%+6.2d V a.c.\" prints with the precision 2 and says 0 "
          "[unit-point]"},
         {"value-text-missing", "DELETE FROM TextsObjectValues WHERE TextOffset = 30 AND Value = 1", "", "",
          "a.db3, Objects, TextOffset, Polarity (id 102): group 30 has no text for 1 [value-text-missing]"},
@@ -302,10 +304,10 @@ std::vector<Row> const & rows()
         {"values-unchecked", "UPDATE Objects SET Format = '%04X', Max = 1200, Min = 0 WHERE id = 109", "", "",
          "a.db3, Objects, Format, Trim (id 109): the object is hexadecimal [values-unchecked]"},
         {"values-unconverted", "UPDATE Objects SET Format = '%I64d', Size = 8 WHERE id = 109", "", "",
-         "a.db3, Objects, Format, Trim (id 109): \"%I64d\" is a conversion of 8 bytes of the kind 'd' "
+         "a.db3, Objects, Format, Trim (id 109): \"%I64d\" has the conversion 'd' and the size 8 "
          "[values-unconverted]"},
         {"values-unconverted", "UPDATE Objects SET Format = '%1c', Size = 1 WHERE id = 1", "", "",
-         "a.db3, Objects, Format, Power (id 1): \"%1c\" is a conversion of 1 bytes of the kind 'c' "
+         "a.db3, Objects, Format, Power (id 1): \"%1c\" has the conversion 'c' and the size 1 "
          "[values-unconverted]"},
         {"version-0-missing",
          "UPDATE Guids SET GUID = 'C7000212' WHERE GUID = 'C7000012'; UPDATE guidsandobjects SET guid = "
@@ -359,6 +361,22 @@ TEST(DescriptionRules, AreInAlphabeticalOrder)
     std::vector<Rule> const & all = kestrova::authoring::rules();
     for (std::size_t i = 1; i < all.size(); ++i)
         EXPECT_LT(std::string(all[i - 1].name), std::string(all[i].name));
+}
+
+TEST(DescriptionRules, AreAllInTheDocument)
+{
+    QFile file(QStringLiteral(KESTROVA_DOCUMENT));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QString const document = QString::fromUtf8(file.readAll());
+    for (Rule const & rule : kestrova::authoring::rules())
+        EXPECT_TRUE(
+            document.contains(QStringLiteral("\n| `%1` | %2 | %3 |\n")
+                                  .arg(QLatin1String(rule.name), QLatin1String(severityName(rule.severity)),
+                                       QLatin1String(rule.summary))))
+            << rule.name;
+    EXPECT_EQ(
+        document.count(QRegularExpression(QStringLiteral("\n\\| `[a-z0-9-]+` \\| (error|warning|hint) \\|"))),
+        static_cast<int>(kestrova::authoring::rules().size()));
 }
 
 TEST(DescriptionRules, FindThatStatisticsAreMissing)

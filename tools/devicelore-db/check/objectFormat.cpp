@@ -70,7 +70,7 @@ void checkSize(Format const & format, QVector<FormatFault> & faults)
     if (expected != format.object.size())
         faults.append(
             {"format-size", "Format",
-             QStringLiteral("\"%1\" reads %2 bytes, and Size is %3")
+             QStringLiteral("\"%1\" has the size %2, and Size is %3")
                  .arg(format.text, QString::number(expected), QString::number(format.object.size()))});
 }
 
@@ -101,7 +101,7 @@ bool checkStep(Format const & format, QVector<FormatFault> & faults)
         return true;
     faults.append({"format-step", "Format",
                    format.isFloat()
-                       ? QStringLiteral("\"%1\" shows %2 decimals, and the step is %3")
+                       ? QStringLiteral("\"%1\" has the precision %2, and the step is %3")
                              .arg(format.text, QString::number(format.spec.precision), textOf(step))
                        : QStringLiteral("\"%1\" counts whole numbers, and the step is %2")
                              .arg(format.text, textOf(step))});
@@ -169,7 +169,7 @@ void checkConversion(Format const & format, CDevicelore & library, QVector<Forma
 {
     if (!format.isConverted() || format.spec.size > convertedBytes) {
         faults.append({"values-unconverted", "Format",
-                       QStringLiteral("\"%1\" is a conversion of %2 bytes of the kind '%3'")
+                       QStringLiteral("\"%1\" has the conversion '%3' and the size %2")
                            .arg(format.text, QString::number(format.spec.size),
                                 QString(QLatin1Char(format.spec.conversion)))});
         return;
@@ -212,7 +212,7 @@ QVector<FormatFault> formatFaults(CObjectDef const & object, CDevicelore & libra
     checkSize(format, faults);
     if (CObjectDef::decimals(format.text) != format.spec.precision)
         faults.append({"unit-point", "Format",
-                       QStringLiteral("\"%1\" prints %2 decimals and says %3")
+                       QStringLiteral("\"%1\" prints with the precision %2 and says %3")
                            .arg(format.text, QString::number(format.spec.precision),
                                 QString::number(CObjectDef::decimals(format.text)))});
     switch (format.spec.conversion) {

@@ -52,7 +52,7 @@ void checkSpeakerClasses(Inspected const & inspected)
         QString const subject = classSubject(number);
         if (ways != waysThatAreListed(number))
             inspected.report("class-not-listed", classes, row, "Ways", subject,
-                             QStringLiteral("class %1 has %2 ways, and its speakers are offered to %3")
+                             QStringLiteral("Ways of class %1 is %2, and its speakers are offered to %3")
                                  .arg(QString::number(number), QString::number(ways),
                                       waysThatAreListed(number) == 1 ? QStringLiteral("single channels")
                                                                      : QStringLiteral("pairs of channels")));
