@@ -34,3 +34,13 @@ if(KESTROVA_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+
+option(KESTROVA_FUZZ "Build the fuzz targets only; needs clang" OFF)
+if(KESTROVA_FUZZ)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        message(FATAL_ERROR "KESTROVA_FUZZ needs clang, and the compiler is ${CMAKE_CXX_COMPILER_ID}; `./dev fuzz` "
+            "takes the right one.")
+    endif()
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

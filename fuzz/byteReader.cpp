@@ -1,0 +1,24 @@
+#include "byteReader.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace kestrova::fuzz {
+
+double ByteReader::real()
+{
+    quint64 const bits = longNumber();
+    double value = 0;
+    std::memcpy(&value, &bits, sizeof(value));
+    return value;
+}
+
+QByteArray ByteReader::bytes(int longest)
+{
+    int const length = std::min(choice(longest + 1), static_cast<int>(end - next));
+    QByteArray const taken(reinterpret_cast<char const *>(next), length);
+    next += length;
+    return taken;
+}
+
+} // namespace kestrova::fuzz
