@@ -175,6 +175,8 @@ void CDriverCache::fillOcaCLassIdList()
 {
     if (objectClassItems == nullptr)
         return;
+    // An id above 255 is cut, so that an item may take the place of another, which nobody deletes then.
+    QHash<unsigned short, CDriverCacheObjectClassItem *> added;
     for (QString const & name : std::as_const(connectionNames)) {
         QSqlQuery rows = queryRows(openConnection(name),
                                    QStringLiteral("SELECT Id, OcaClassId, Description FROM ObjectClasses"));
@@ -182,8 +184,11 @@ void CDriverCache::fillOcaCLassIdList()
             int const id = rows.value(0).toInt();
             if (id == 0 || objectClassItems->itemByClassId(static_cast<unsigned short>(id)) != nullptr)
                 continue;
-            objectClassItems->append(new CDriverCacheObjectClassItem(
-                static_cast<unsigned char>(id), rows.value(1).toString(), rows.value(2).toString()));
+            auto * const item = new CDriverCacheObjectClassItem(
+                static_cast<unsigned char>(id), rows.value(1).toString(), rows.value(2).toString());
+            objectClassItems->append(item);
+            delete added.take(item->classId());
+            added.insert(item->classId(), item);
         }
     }
 }

@@ -445,6 +445,21 @@ TEST(ObjectClasses, AreReadOnceForAnId)
     EXPECT_EQ(cache.objectClassItems->itemByClassId(2)->fields()[0], 0);
 }
 
+TEST(ObjectClasses, WithIdsAboveAByteTakeThePlaceOfOthersAndLeaveNothingBehind)
+{
+    DatabaseFolder folder;
+    folder.add(
+        QStringLiteral("a.db3"),
+        QStringLiteral("CREATE TABLE ObjectClasses (Id INTEGER, OcaClassId TEXT, Description TEXT);"
+                       "INSERT INTO ObjectClasses VALUES (1, '1', ''), (257, '2', ''), (513, '3', ''), "
+                       "(256, '4', ''), (512, '5', '');")); // the last two become 0, which finds nothing
+    ExposedCache cache;
+    ASSERT_EQ(cache.openDatabases(folder.dir()), 1);
+    ASSERT_NE(cache.objectClassItems->itemByClassId(1), nullptr);
+    EXPECT_EQ(cache.objectClassItems->itemByClassId(1)->fields()[0], 3);
+    EXPECT_EQ(cache.objectClassItems->itemByClassId(257), nullptr);
+}
+
 TEST(ObjectClasses, AreNotReadWithoutAPlaceForThem)
 {
     OneDatabase database(
