@@ -1,9 +1,13 @@
 #include "core/encryptedDatabase.h"
 
+#include "hardening/connectionLimits.h"
+#include "hardening/statementBudget.h"
+#include "hardening/statementRules.h"
 #include "sqlcipher/readOnlyVfs.h"
 
 #include <QFileInfo>
 #include <QSqlDatabase>
+#include <QSqlDriver>
 #include <QSqlQuery>
 #include <QUrl>
 #include <QVariant>
@@ -28,6 +32,14 @@ QString uriOf(QString const & filePath, char const * vfs)
 {
     QByteArray const path = QUrl::toPercentEncoding(QFileInfo(filePath).absoluteFilePath());
     return QLatin1String("file:" + path + "?vfs=" + vfs);
+}
+
+/// Null when the driver is not the one of the system's SQLite.
+sqlite3 * sqliteHandleOf(QSqlDatabase const & connection)
+{
+    QVariant const handle = connection.driver()->handle();
+    bool const isSqlite = handle.isValid() && qstrcmp(handle.typeName(), "sqlite3*") == 0;
+    return isSqlite ? *static_cast<sqlite3 * const *>(handle.constData()) : nullptr;
 }
 
 /// Reads page 1 as ordinary statements do: opening alone does not look at what is behind the first 100 bytes.
@@ -55,11 +67,14 @@ bool openReadOnly(QSqlDatabase & connection, QString const & filePath)
         return false;
     connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI"));
     connection.setDatabaseName(uriOf(filePath, vfs));
-    if (!connection.open() || !isReadable(connection))
+    if (!connection.open())
         return false;
-    setUp(connection);
+    sqlite3 * const sqlite = sqliteHandleOf(connection);
+    if (!sqlite || !hardening::limitConnection(sqlite) || !isReadable(connection))
+        return false;
+    setUp(connection); // before the rules, which allow no more settings
     connection.setDatabaseName(filePath);
-    return true;
+    return hardening::allowReadingOnly(sqlite) && hardening::holdToBudget(sqlite);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "core/encryptedDatabase.h"
 
 #include <QSqlDatabase>
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -36,6 +37,22 @@ std::string ConnectionFixture::ask(QString const & sql, QString const & connecti
         lines += columns.join(QLatin1Char('|'));
     }
     return query.lastError().isValid() ? "error" : lines.join(QLatin1Char('\n')).toStdString();
+}
+
+std::string ConnectionFixture::refusalOf(QString const & sql, QString const & connectionName)
+{
+    sqlite3 * const database = handle(connectionName);
+    sqlite3_stmt * statement = nullptr;
+    int const prepared = sqlite3_prepare_v2(database, sql.toUtf8().constData(), -1, &statement, nullptr);
+    std::string const words = prepared == SQLITE_OK ? "" : sqlite3_errmsg(database);
+    sqlite3_finalize(statement);
+    return words;
+}
+
+sqlite3 * ConnectionFixture::handle(QString const & connectionName)
+{
+    return *static_cast<sqlite3 * const *>(
+        QSqlDatabase::database(connectionName, false).driver()->handle().constData());
 }
 
 } // namespace kestrova::test

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <string>
 
@@ -24,6 +25,13 @@ protected:
     /// The rows that \a sql gives on the connection, a line each, with "|" between the columns; "error" when
     /// the statement fails at its start or on the way.
     static std::string ask(QString const & sql, QString const & connectionName = QStringLiteral("test"));
+
+    /// SQLite's own words for the failure of \a sql when it is prepared; empty when it does not fail.
+    static std::string refusalOf(QString const & sql,
+                                 QString const & connectionName = QStringLiteral("test"));
+
+    /// SQLite's own handle of the connection.
+    static sqlite3 * handle(QString const & connectionName = QStringLiteral("test"));
 
     /// What Qt's message logger was given since the start of the test.
     std::string messages() const { return recorder.messages().join(QLatin1Char('\n')).toStdString(); }

@@ -1,0 +1,192 @@
+#include "hardening/statementBudget.h"
+
+#include "connectionFixture.h"
+#include "sampleDatabase.h"
+
+#include <QSqlDatabase>
+
+#include <limits>
+#include <memory>
+
+namespace kestrova::test {
+
+namespace {
+
+using hardening::StatementBudget;
+
+constexpr sqlite3_int64 noEnd = std::numeric_limits<sqlite3_int64>::max() / 2;
+constexpr std::chrono::hours anHour{1};
+
+constexpr char endlessRows[] =
+    "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) SELECT i FROM c";
+constexpr char endlessCount[] =
+    "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) SELECT count(*) FROM c";
+
+std::string countTo(int number)
+{
+    return "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < " +
+           std::to_string(number) + ") SELECT count(*) FROM c";
+}
+
+/// A connection of SQLite's own to a database in memory.
+class Database {
+public:
+    explicit Database(StatementBudget const & budget)
+    {
+        sqlite3_open(":memory:", &handle);
+        EXPECT_TRUE(hardening::holdToBudget(handle, budget));
+    }
+
+    ~Database() { sqlite3_close(handle); }
+
+    Database(Database const &) = delete;
+    Database & operator=(Database const &) = delete;
+
+    int run(std::string const & sql) const
+    {
+        return sqlite3_exec(handle, sql.c_str(), nullptr, nullptr, nullptr);
+    }
+
+    sqlite3_stmt * prepare(char const * sql) const
+    {
+        sqlite3_stmt * statement = nullptr;
+        EXPECT_EQ(sqlite3_prepare_v2(handle, sql, -1, &statement, nullptr), SQLITE_OK);
+        return statement;
+    }
+
+    sqlite3 * handle = nullptr;
+};
+
+TEST(StatementBudget, EndsWhatRunsForEver)
+{
+    Database const database({1'000'000, anHour, noEnd});
+    EXPECT_EQ(database.run(endlessCount), SQLITE_INTERRUPT);
+    EXPECT_EQ(database.run(endlessRows), SQLITE_INTERRUPT);
+    EXPECT_EQ(database.run("SELECT 1"), SQLITE_OK);
+}
+
+TEST(StatementBudget, StartsAnewWithEachStatement)
+{
+    Database const database({1'000'000, anHour, noEnd});
+    std::string const mostOfIt = countTo(50'000);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(database.run(mostOfIt), SQLITE_OK) << i;
+    EXPECT_EQ(database.run(countTo(100'000)), SQLITE_INTERRUPT);
+    EXPECT_EQ(database.run(mostOfIt), SQLITE_OK);
+}
+
+TEST(StatementBudget, StartsAnewWithEachRunOfAPreparedStatement)
+{
+    Database const database({1'000'000, anHour, noEnd});
+    sqlite3_stmt * const statement = database.prepare(countTo(50'000).c_str());
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_EQ(sqlite3_step(statement), SQLITE_ROW) << i;
+        sqlite3_reset(statement);
+    }
+    sqlite3_finalize(statement);
+}
+
+TEST(StatementBudget, StartsAnewThoughAnotherStatementIsUnfinished)
+{
+    Database const database({1'000'000, anHour, noEnd});
+    sqlite3_stmt * const unfinished = database.prepare(endlessRows);
+    EXPECT_EQ(sqlite3_step(unfinished), SQLITE_ROW);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(database.run(countTo(50'000)), SQLITE_OK) << i;
+    EXPECT_EQ(sqlite3_step(unfinished), SQLITE_ROW);
+    sqlite3_finalize(unfinished);
+}
+
+TEST(StatementBudget, DoesNotStartAnewWithAStatementWithinAnother)
+{
+    Database const database({1'000'000, anHour, noEnd});
+    ASSERT_EQ(database.run("CREATE TABLE T (a)"), SQLITE_OK);
+    EXPECT_EQ(database.run("WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) "
+                           "SELECT count(*) FROM c, pragma_table_info('T')"),
+              SQLITE_INTERRUPT);
+}
+
+TEST(StatementBudget, HoldsForAStatementThatBeginsWithAComment)
+{
+    Database const database({1'000'000, anHour, noEnd});
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(database.run("-- a comment\n" + countTo(50'000)), SQLITE_OK) << i;
+    EXPECT_EQ(database.run(std::string("-- a comment\n") + endlessCount), SQLITE_INTERRUPT);
+}
+
+TEST(StatementBudget, EndsFewStepsThatTakeLong)
+{
+    Database const database({noEnd, std::chrono::milliseconds(20), noEnd});
+    auto const start = std::chrono::steady_clock::now();
+    EXPECT_EQ(database.run("WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) "
+                           "SELECT sum(length(hex(zeroblob(100000)))) FROM c"),
+              SQLITE_INTERRUPT);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::minutes(1));
+    EXPECT_EQ(database.run("SELECT 1"), SQLITE_OK);
+}
+
+TEST(StatementBudget, EndsWhatTakesAllMemory)
+{
+    Database const database({noEnd, anHour, 64 * 1024 * 1024});
+    auto const sortOf = [](int rows) {
+        return "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < " +
+               std::to_string(rows) + ") SELECT i, zeroblob(100000) FROM c ORDER BY i % 7";
+    };
+    ASSERT_EQ(database.run("PRAGMA temp_store = MEMORY"), SQLITE_OK);
+    sqlite3_memory_highwater(1);
+    EXPECT_EQ(database.run(sortOf(100'000)), SQLITE_INTERRUPT); // 10 GB
+    EXPECT_LT(sqlite3_memory_highwater(0), 128 * 1024 * 1024);
+    EXPECT_EQ(database.run(sortOf(100)), SQLITE_OK);
+}
+
+TEST(StatementBudget, OutlivesAnAttemptToCloseThatSqliteRefuses)
+{
+    Database const database({1'000'000, anHour, noEnd});
+    sqlite3_stmt * const unfinished = database.prepare(endlessRows);
+    EXPECT_EQ(sqlite3_step(unfinished), SQLITE_ROW);
+    EXPECT_EQ(sqlite3_close(database.handle), SQLITE_BUSY);
+    for (int i = 0; i < 10'000; ++i)
+        ASSERT_EQ(sqlite3_step(unfinished), SQLITE_ROW);
+    sqlite3_finalize(unfinished);
+}
+
+class BudgetOfAConnection : public ConnectionFixture {
+protected:
+    QString const file = path(QStringLiteral("sample.db3"));
+
+    BudgetOfAConnection() { makeEncryptedSample(file); }
+
+    static void expectHeld(QString const & name)
+    {
+        EXPECT_EQ(ask(QLatin1String(endlessCount), name), "error");
+        EXPECT_EQ(ask(QStringLiteral("SELECT name FROM Names WHERE id = 7"), name), "name of 7");
+    }
+};
+
+TEST_F(BudgetOfAConnection, IsEnoughForAMillionRows)
+{
+    ASSERT_TRUE(open(file));
+    EXPECT_EQ(ask(QStringLiteral("SELECT count(*), count(DISTINCT a.name) FROM Names a, Names b "
+                                 "WHERE b.id <= 334 AND a.name || b.name LIKE '%name of%'")),
+              "1002000|3000");
+    EXPECT_EQ(ask(QStringLiteral("SELECT count(*) FROM (SELECT a.id, b.name FROM Names a, Names b "
+                                 "WHERE b.id <= 334 ORDER BY b.name, a.id LIMIT -1 OFFSET 1)")),
+              "1001999");
+    EXPECT_EQ(messages(), "");
+}
+
+TEST_F(BudgetOfAConnection, HoldsForPlainConnectionsAndForThoseThatTakeAName)
+{
+    ASSERT_TRUE(open(file));
+    expectHeld(QStringLiteral("test"));
+    ASSERT_TRUE(open(file)); // takes the place of the first
+    expectHeld(QStringLiteral("test"));
+    QSqlDatabase::removeDatabase(QStringLiteral("test"));
+    ASSERT_TRUE(open(file));
+    expectHeld(QStringLiteral("test"));
+    EXPECT_EQ(messages(), "");
+}
+
+} // namespace
+
+} // namespace kestrova::test
