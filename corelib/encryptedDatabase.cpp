@@ -42,21 +42,22 @@ sqlite3 * sqliteHandleOf(QSqlDatabase const & connection)
     return isSqlite ? *static_cast<sqlite3 * const *>(handle.constData()) : nullptr;
 }
 
-/// Reads page 1 as ordinary statements do: opening alone does not look at what is behind the first 100 bytes.
+/// Reads the whole schema, which opening alone does not look at. What fails here would fail later only in
+/// part: a setting would be lost, a column be taken for missing.
 bool isReadable(QSqlDatabase const & connection)
 {
     QSqlQuery query(connection);
-    return query.exec(QStringLiteral("PRAGMA schema_version")) && query.next();
+    return query.exec(QStringLiteral("SELECT count(*) FROM sqlite_master")) && query.next();
 }
 
-void setUp(QSqlDatabase const & connection)
+bool setUp(QSqlDatabase const & connection)
 {
     QSqlQuery query(connection);
     // A large sort would otherwise put decrypted rows into a file.
-    query.exec(QStringLiteral("PRAGMA temp_store = MEMORY"));
-    // Decrypting costs more than reading: each page is decrypted once.
-    if (query.exec(QStringLiteral("PRAGMA page_count")) && query.next())
-        query.exec(QStringLiteral("PRAGMA cache_size = %1").arg(query.value(0).toLongLong()));
+    return query.exec(QStringLiteral("PRAGMA temp_store = MEMORY")) &&
+           // Decrypting costs more than reading: each page is decrypted once.
+           query.exec(QStringLiteral("PRAGMA page_count")) && query.next() &&
+           query.exec(QStringLiteral("PRAGMA cache_size = %1").arg(query.value(0).toLongLong()));
 }
 
 bool openReadOnly(QSqlDatabase & connection, QString const & filePath)
@@ -70,10 +71,10 @@ bool openReadOnly(QSqlDatabase & connection, QString const & filePath)
     if (!connection.open())
         return false;
     sqlite3 * const sqlite = sqliteHandleOf(connection);
-    if (!sqlite || !hardening::limitConnection(sqlite) || !isReadable(connection))
+    if (!sqlite || !hardening::limitConnection(sqlite) || !isReadable(connection) || !setUp(connection))
         return false;
-    setUp(connection); // before the rules, which allow no more settings
     connection.setDatabaseName(filePath);
+    // From here on, nobody changes a setting.
     return hardening::allowReadingOnly(sqlite) && hardening::holdToBudget(sqlite);
 }
 

@@ -12,27 +12,42 @@ using Clock = std::chrono::steady_clock;
 /// time.
 constexpr int stepsPerCheck = 1000;
 
+sqlite3_int64 fileSize(sqlite3 * database)
+{
+    sqlite3_file * file = nullptr;
+    sqlite3_int64 size = 0;
+    if (sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK && file &&
+        file->pMethods)
+        file->pMethods->xFileSize(file, &size);
+    return size;
+}
+
 /// Watches over the statements of one connection, and lives as long as that is open.
 class Watch {
 public:
     Watch(sqlite3 * connection, StatementBudget const & statementBudget)
         : database(connection)
         , budget(statementBudget)
+        , pageCache(fileSize(connection))
     {}
 
     bool begin()
     {
         sqlite3_progress_handler(database, stepsPerCheck, onProgress, this);
-        return sqlite3_trace_v2(database, SQLITE_TRACE_STMT | SQLITE_TRACE_CLOSE, onTrace, this) == SQLITE_OK;
+        return sqlite3_trace_v2(database, SQLITE_TRACE_STMT | SQLITE_TRACE_ROW | SQLITE_TRACE_CLOSE, onTrace,
+                                this) == SQLITE_OK;
     }
 
 private:
-    static int onTrace(unsigned int event, void * watch, void * subject, void * text)
+    static int onTrace(unsigned int event, void * context, void * subject, void * text)
     {
-        if (event == SQLITE_TRACE_CLOSE)
-            static_cast<Watch *>(watch)->end();
+        auto * const watch = static_cast<Watch *>(context);
+        if (event == SQLITE_TRACE_STMT)
+            watch->statementBegins(static_cast<sqlite3_stmt *>(subject), text);
+        else if (event == SQLITE_TRACE_ROW)
+            watch->rowIsGiven(static_cast<sqlite3_stmt *>(subject));
         else
-            static_cast<Watch *>(watch)->statementBegins(static_cast<sqlite3_stmt *>(subject), text);
+            watch->end();
         return 0;
     }
 
@@ -44,7 +59,28 @@ private:
         // A statement that SQLite runs within another comes with a comment for a text. It is on the account
         // of the other one, which could go on for ever otherwise.
         if (text == sqlite3_sql(statement))
-            checks = 0;
+            checks = given = 0;
+    }
+
+    void rowIsGiven(sqlite3_stmt * row)
+    {
+        for (int column = 0; column < sqlite3_column_count(row); ++column)
+            given += bytesOf(row, column);
+        if (given > budget.memory)
+            sqlite3_interrupt(database); // the next row fails
+    }
+
+    static sqlite3_int64 bytesOf(sqlite3_stmt * row, int column)
+    {
+        constexpr sqlite3_int64 bytesOfVariant = 16;
+        switch (sqlite3_column_type(row, column)) {
+        case SQLITE_TEXT:
+            return bytesOfVariant + sqlite3_column_bytes16(row, column); // as Qt is going to take it
+        case SQLITE_BLOB:
+            return bytesOfVariant + sqlite3_column_bytes(row, column);
+        default:
+            return bytesOfVariant;
+        }
     }
 
     bool isExceeded()
@@ -54,7 +90,7 @@ private:
             memoryAtStart = sqlite3_memory_used();
         }
         return checks * stepsPerCheck > budget.steps || Clock::now() - start > budget.time ||
-               sqlite3_memory_used() - memoryAtStart > budget.memory;
+               sqlite3_memory_used() - memoryAtStart > budget.memory + pageCache;
     }
 
     /// SQLite says that a connection is to be closed before it looks for unfinished statements, and then may
@@ -68,28 +104,19 @@ private:
 
     sqlite3 * database;
     StatementBudget budget;
-    sqlite3_int64 checks = 0; ///< of the statement that began last
+    sqlite3_int64 pageCache;
+    // Of the statement that began last:
+    sqlite3_int64 checks = 0;
+    sqlite3_int64 given = 0; ///< bytes in its rows
     Clock::time_point start;
     sqlite3_int64 memoryAtStart = 0;
 };
-
-sqlite3_int64 fileSize(sqlite3 * database)
-{
-    sqlite3_file * file = nullptr;
-    sqlite3_int64 size = 0;
-    if (sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK && file &&
-        file->pMethods)
-        file->pMethods->xFileSize(file, &size);
-    return size;
-}
 
 } // namespace
 
 bool holdToBudget(sqlite3 * database, StatementBudget const & budget)
 {
-    StatementBudget withPageCache = budget;
-    withPageCache.memory += fileSize(database);
-    auto watch = std::make_unique<Watch>(database, withPageCache);
+    auto watch = std::make_unique<Watch>(database, budget);
     if (!watch->begin())
         return false;
     static_cast<void>(watch.release()); // it deletes itself when the connection is closed

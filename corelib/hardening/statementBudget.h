@@ -13,9 +13,10 @@ struct StatementBudget {
     sqlite3_int64 steps = 100'000'000;
     /// For steps that take long: on values of megabytes a single one takes milliseconds.
     std::chrono::milliseconds time = std::chrono::seconds(30);
-    /// By which SQLite's memory may grow, in bytes: sorting and recursion hold their rows in memory. To this
-    /// comes the size of the file, for the page cache.
-    sqlite3_int64 memory = 256 * 1024 * 1024;
+    /// In bytes. By so much SQLite's memory may grow, beyond the size of the file for the page cache: sorting
+    /// and recursion hold their rows in memory. And so much may the rows hold that it gives, for whoever
+    /// collects them.
+    sqlite3_int64 memory = 512 * 1024 * 1024;
 };
 
 /// Holds each statement that begins on \a database to the budget, until the connection is closed. Takes

@@ -1,5 +1,6 @@
 #include "cache/databaseAccess.h"
 
+#include <QSqlError>
 #include <QVariant>
 
 namespace kestrova::Morvel::Devicelore {
@@ -38,11 +39,24 @@ QSqlDatabase openConnection(QString const & connectionName)
 QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement)
 {
     QSqlQuery query(db);
-    query.setForwardOnly(true);
-    if (db.isOpen() &&
-        !statement.isEmpty()) // Qt would complain about a closed database and an empty statement
-        query.exec(statement);
+    // Qt would complain about a closed database and an empty statement
+    if (db.isOpen() && !statement.isEmpty() && query.prepare(statement))
+        executeWhole(query);
     return query;
+}
+
+bool executeWhole(QSqlQuery & query)
+{
+    query.setForwardOnly(false); // so that Qt keeps the rows
+    if (!query.exec())
+        return false;
+    query.last();
+    if (query.lastError().isValid()) {
+        query.next(); // behind the rows that came before the failure
+        return false;
+    }
+    query.seek(QSql::BeforeFirstRow);
+    return true;
 }
 
 QStringList firstColumn(QSqlQuery && rows)

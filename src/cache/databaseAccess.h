@@ -17,6 +17,10 @@ QSqlDatabase openConnection(QString const & connectionName);
 /// the query inactive. Nothing is logged, also when the statement is empty or \a db closed or invalid.
 QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement);
 
+/// Executes a prepared statement and reads all its rows, then to be walked with next(): a statement that
+/// fails on the way has as few as one that fails at once. False when it fails, and lastError() says why.
+bool executeWhole(QSqlQuery & query);
+
 /// The first value of each row, from the current place on, as text.
 QStringList firstColumn(QSqlQuery && rows);
 

@@ -21,7 +21,7 @@ QVariant filterIdFor(QSqlDatabase const & db, CDriverCacheChannelKeyFilter const
         db, QStringLiteral("SELECT FilterId FROM GuidsSpeakersFilters WHERE GUID = ? AND SpeakerId = ?"));
     rows.bindValue(0, key.guidString(), QSql::In);
     rows.bindValue(1, int(key.channelInfo()->GetSpeakerId()), QSql::In);
-    rows.exec();
+    executeWhole(rows);
     while (rows.next()) {
         QVariant filterId = rows.value(0);
         if (filterId.toInt() / 10 == key.filterNumber())

@@ -16,7 +16,7 @@ QSqlQuery filterRows(QSqlDatabase const & db, bool hasAccess)
     QSqlQuery rows = preparedQuery(
         db, hasAccess ? QStringLiteral("SELECT FilterName,Expression,Access FROM DevicePropertyFilter")
                       : QStringLiteral("SELECT FilterName,Expression FROM DevicePropertyFilter"));
-    if (!rows.exec()) { // the error is that of executing, also where preparing has failed before
+    if (!executeWhole(rows)) { // the error is that of executing, also where preparing has failed before
         QSqlError const error = rows.lastError();
         QMessageLogger().critical("Error %s (type: %d) accessing project database in %s %d",
                                   error.text().toUtf8().constData(), int(error.type()), __FILE__, __LINE__);

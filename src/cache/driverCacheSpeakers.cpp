@@ -84,7 +84,7 @@ void CDriverCache::fillGuidSpeakerList(CDeviceGuid const & guid)
     rows.bindValue(1, int(guidSupportedLevel_), QSql::In);
 
     QList<unsigned short> others = speakerItems->speakerIds();
-    rows.exec();
+    executeWhole(rows);
     while (rows.next()) {
         auto const id = static_cast<unsigned short>(rows.value(0).toInt());
         speakerItems->addToSupportedList(guid, id);

@@ -139,6 +139,23 @@ TEST(StatementBudget, EndsWhatTakesAllMemory)
     EXPECT_EQ(database.run(sortOf(100)), SQLITE_OK);
 }
 
+TEST(StatementBudget, EndsWhatGivesMoreThanMemoryHolds)
+{
+    Database const database({noEnd, anHour, 64'000'000});
+    for (char const * const value : {"zeroblob(1000000)", "printf('%.*c', 500000, 'x')"}) {
+        std::string const sql =
+            std::string("WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) SELECT ") + value +
+            " FROM c";
+        sqlite3_stmt * const endless = database.prepare(sql.c_str());
+        int rows = 0;
+        while (sqlite3_step(endless) == SQLITE_ROW)
+            ++rows;
+        EXPECT_EQ(rows, 64) << value;
+        EXPECT_EQ(sqlite3_finalize(endless), SQLITE_INTERRUPT);
+        EXPECT_EQ(database.run("SELECT 1"), SQLITE_OK);
+    }
+}
+
 TEST(StatementBudget, OutlivesAnAttemptToCloseThatSqliteRefuses)
 {
     Database const database({1'000'000, anHour, noEnd});
