@@ -1,5 +1,6 @@
 #include "core/encryptedDatabase.h"
 
+#include "hardening/boundedFunctions.h"
 #include "hardening/connectionLimits.h"
 #include "hardening/statementBudget.h"
 #include "hardening/statementRules.h"
@@ -75,7 +76,8 @@ bool openReadOnly(QSqlDatabase & connection, QString const & filePath)
         return false;
     connection.setDatabaseName(filePath);
     // From here on, nobody changes a setting.
-    return hardening::allowReadingOnly(sqlite) && hardening::holdToBudget(sqlite);
+    return hardening::boundFunctions(sqlite) && hardening::allowReadingOnly(sqlite) &&
+           hardening::holdToBudget(sqlite);
 }
 
 } // namespace

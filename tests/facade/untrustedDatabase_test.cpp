@@ -245,3 +245,35 @@ TEST(UntrustedDatabase, IsWholeInTheWorldThatTheOthersDepartFrom)
     EXPECT_EQ(facade.devicePropertyFilter(QStringLiteral("F")),
               QStringList{QStringLiteral("Config_Filter1")});
 }
+
+TEST(UntrustedDatabase, GivesAnEmptyGroupForAStatementThatItsConnectionRefuses)
+{
+    QString const endless = QStringLiteral("WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) "
+                                           "SELECT i FROM c");
+    DatabaseFolder folder;
+    folder.add(QStringLiteral("a.db3"),
+               worldWith(QString(), nullptr) +
+                   QStringLiteral("INSERT INTO DevicePropertyFilter VALUES"
+                                  " ('Writing', 'DELETE FROM Objects', 0),"
+                                  " ('Attaching', 'ATTACH '':memory:'' AS other', 0),"
+                                  " ('Making', 'CREATE TEMP TABLE T (a)', 0),"
+                                  " ('Loading', 'SELECT load_extension(''x'')', 0),"
+                                  " ('Endless', '%1', 0);")
+                       .arg(endless));
+    auto * const cache = new CDriverCache;
+    ASSERT_EQ(cache->openDatabases(folder.dir()), 1);
+    CDevicelore facade(QPointer<CDriverCache>(cache), nullptr);
+    MessageRecorder const recorder;
+    QStringList groups = facade.enumDevicePropertyFilter();
+    groups.sort();
+    EXPECT_EQ(groups.join(QLatin1Char(' ')), QStringLiteral("Attaching Endless F Loading Making Writing"));
+    for (QString const & group : std::as_const(groups)) {
+        bool const isSound = group == QLatin1String("F");
+        EXPECT_EQ(facade.devicePropertyFilter(group),
+                  isSound ? QStringList{QStringLiteral("Config_Filter1")} : QStringList());
+    }
+    EXPECT_EQ(facade.devicePropertyFilterByExpression(endless), QStringList());
+    EXPECT_EQ(facade.devicePropertyFilterByExpression(QStringLiteral("SELECT Name FROM Objects")),
+              QStringList{QStringLiteral("Config_Filter1")});
+    EXPECT_EQ(recorder.messages(), QStringList());
+}

@@ -1,0 +1,99 @@
+#include "connectionFixture.h"
+#include "sampleDatabase.h"
+#include "sqlcipher/databaseFile.h"
+#include "support/sqlFile.h"
+
+namespace kestrova::test {
+
+namespace {
+
+class BoundedFunctions : public ConnectionFixture {
+protected:
+    void openSample()
+    {
+        QString const file = path(QStringLiteral("sample.db3"));
+        makeSqlFile(file + QStringLiteral(".plain"),
+                    sampleSql() +
+                        QStringLiteral("CREATE VIEW Numbers AS SELECT replace(name, 'name of ', '') AS n "
+                                       "FROM Names WHERE instr(name, '299') > 0;"));
+        sqlcipher::encryptDatabase(file + QStringLiteral(".plain"), file, sqlcipher::version4,
+                                   sqlcipher::databaseKey);
+        ASSERT_TRUE(open(file));
+    }
+};
+
+struct Call {
+    char const * expression;
+    char const * answer;
+};
+
+TEST_F(BoundedFunctions, AnswerAsSqlitesOwn)
+{
+    static constexpr Call rows[] = {
+        {"instr('ChStatus_Gain', '_')", "9"},
+        {"instr('äöü', 'ü')", "3"},
+        {"instr(x'C3A4C3B6', x'B6')", "4"},
+        {"instr('abc', 'd')", "0"},
+        {"instr('abc', '')", "1"},
+        {"instr(NULL, 'a') IS NULL", "1"},
+        {"instr('a', NULL) IS NULL", "1"},
+        {"instr(1234, 34)", "3"},
+        {"typeof(instr('a', 'a'))", "integer"},
+        {"replace('a_b_c', '_', '--')", "a--b--c"},
+        {"replace('abc', '', 'x')", "abc"},
+        {"replace('abc', 'b', NULL) IS NULL", "1"},
+        {"replace(1213, 1, 0)", "0203"},
+        {"trim('xxaxbxx', 'x')", "axb"},
+        {"ltrim('xyxax', 'xy')", "ax"},
+        {"rtrim('axüü', 'üx')", "a"},
+        {"trim('  a  ')", "a"},
+        {"json_patch('{\"a\":1,\"b\":2}', '{\"a\":null}')", "{\"b\":2}"},
+    };
+    openSample();
+    for (Call const & row : rows)
+        EXPECT_EQ(ask(QStringLiteral("SELECT ") + QString::fromUtf8(row.expression)), row.answer)
+            << row.expression;
+    EXPECT_EQ(ask(QStringLiteral("SELECT json_patch('{', '{}')")), "error");
+    EXPECT_EQ(ask(QStringLiteral("SELECT trim('a')")), "a");
+    EXPECT_EQ(ask(QStringLiteral("SELECT trim()")), "error");
+}
+
+TEST_F(BoundedFunctions, CanBeCalledByViews)
+{
+    openSample();
+    EXPECT_EQ(ask(QStringLiteral("SELECT n FROM Numbers LIMIT 3")), "299\n1299\n2299");
+}
+
+TEST_F(BoundedFunctions, FailWhereTheyWouldTakeHours)
+{
+    static constexpr char const * calls[] = {
+        "instr(zeroblob(8000000), CAST(zeroblob(4000000) || 'x' AS BLOB))",
+        "instr(printf('%.*c', 8000000, 'a'), printf('%.*c', 4000000, 'a') || 'b')",
+        "replace(printf('%.*c', 8000000, 'a'), printf('%.*c', 4000000, 'a') || 'b', '')",
+        "trim(printf('%.*c', 8000000, 'a'), printf('%.*c', 4000000, 'b') || 'a')",
+        "ltrim(printf('%.*c', 8000000, 'a'), printf('%.*c', 4000000, 'b') || 'a')",
+        "rtrim(printf('%.*c', 8000000, 'a'), printf('%.*c', 4000000, 'b') || 'a')",
+        "json_patch(printf('%.*c', 8000000, '['), printf('%.*c', 4000000, '['))",
+    };
+    openSample();
+    for (char const * const call : calls) {
+        EXPECT_EQ(ask(QStringLiteral("SELECT length(%1)").arg(QLatin1String(call))), "error") << call;
+        EXPECT_EQ(ask(QStringLiteral("SELECT instr('abc', 'c')")), "3");
+    }
+    EXPECT_EQ(messages(), "");
+}
+
+TEST_F(BoundedFunctions, KeepToTheLongestValue)
+{
+    openSample();
+    EXPECT_EQ(
+        ask(QStringLiteral("SELECT length(replace(printf('%.*c', 1000000, 'a'), 'a', '1234567890123456'))")),
+        "16000000");
+    EXPECT_EQ(
+        ask(QStringLiteral("SELECT length(replace(printf('%.*c', 1000000, 'a'), 'a', '12345678901234567'))")),
+        "error");
+}
+
+} // namespace
+
+} // namespace kestrova::test
