@@ -138,12 +138,12 @@ TEST_F(ConnectionLimits, LeaveOutVirtualTables)
                                               "INSERT INTO Words VALUES ('one');"
                                               "CREATE VIRTUAL TABLE Boxes USING rtree (id, a, b);"
                                               "CREATE TABLE T (a); INSERT INTO T VALUES (5);")));
-    EXPECT_EQ(ask(QStringLiteral("SELECT word FROM Words")), "error");
-    EXPECT_EQ(ask(QStringLiteral("SELECT id FROM Boxes")), "error");
-    EXPECT_EQ(ask(QStringLiteral("SELECT name FROM dbstat")), "error");
-    EXPECT_EQ(ask(QStringLiteral("SELECT sql FROM sqlite_stmt")), "error");
-    EXPECT_EQ(ask(QStringLiteral("SELECT value FROM json_each('[4,5]')")), "error");
     EXPECT_EQ(ask(QStringLiteral("SELECT name FROM pragma_table_info('T')")), "error");
+    sqlite3_set_authorizer(handle(), nullptr, nullptr); // they are not there, whatever the rules say
+    for (char const * const sql :
+         {"SELECT word FROM Words", "SELECT id FROM Boxes", "SELECT name FROM dbstat",
+          "SELECT sql FROM sqlite_stmt", "SELECT value FROM json_each('[4,5]')"})
+        EXPECT_EQ(ask(QLatin1String(sql)), "error") << sql;
     EXPECT_EQ(ask(QStringLiteral("SELECT a FROM T")), "5");
     EXPECT_EQ(messages(), "");
 }

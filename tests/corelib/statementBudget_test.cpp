@@ -102,7 +102,7 @@ TEST(StatementBudget, DoesNotStartAnewWithAStatementWithinAnother)
     Database const database({1'000'000, anHour, noEnd});
     ASSERT_EQ(database.run("CREATE TABLE T (a)"), SQLITE_OK);
     EXPECT_EQ(database.run("WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) "
-                           "SELECT count(*) FROM c, pragma_table_info('T')"),
+                           "SELECT count(*) FROM c CROSS JOIN pragma_table_info('T')"),
               SQLITE_INTERRUPT);
 }
 
