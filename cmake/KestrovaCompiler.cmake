@@ -44,3 +44,10 @@ if(KESTROVA_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+
+option(KESTROVA_COVERAGE "Count which lines the tests run" OFF)
+if(KESTROVA_COVERAGE)
+    # Inlined functions and branches of exceptions would blur what is counted.
+    add_compile_options(--coverage -O0 -fno-inline -fprofile-abs-path -fprofile-update=atomic)
+    add_link_options(--coverage)
+endif()
