@@ -1,12 +1,14 @@
 #include "core/deviceGuid.h"
 
+#include "core/qt5Conversions.h"
+
 namespace kestrova::Solvane::DataTypes {
 
 CDeviceGuid::~CDeviceGuid() = default;
 
 CDeviceGuid & CDeviceGuid::operator=(QString const & text)
 {
-    value_ = text.toUInt(nullptr, 16);
+    value_ = qt5::toUInt(text, nullptr, 16);
     return *this;
 }
 

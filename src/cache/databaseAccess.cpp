@@ -1,5 +1,7 @@
 #include "cache/databaseAccess.h"
 
+#include "core/qt5Conversions.h"
+
 #include <QSqlError>
 #include <QVariant>
 
@@ -12,9 +14,9 @@ CVersionNumber readVersion(QSqlDatabase const & db)
     CVersionNumber version(0, 0, 0);
     QSqlQuery rows = queryRows(db, QStringLiteral("SELECT * from Version"));
     if (rows.next()) {
-        version.setMajor(static_cast<unsigned char>(rows.value(0).toUInt()));
-        version.setMinor(static_cast<unsigned char>(rows.value(1).toUInt()));
-        version.setBugfix(static_cast<unsigned short>(rows.value(2).toUInt()));
+        version.setMajor(static_cast<unsigned char>(qt5::toUInt(rows.value(0))));
+        version.setMinor(static_cast<unsigned char>(qt5::toUInt(rows.value(1))));
+        version.setBugfix(static_cast<unsigned short>(qt5::toUInt(rows.value(2))));
     }
     return version;
 }
@@ -63,7 +65,7 @@ QStringList firstColumn(QSqlQuery && rows)
 {
     QStringList texts;
     while (rows.next())
-        texts.append(rows.value(0).toString());
+        texts.append(qt5::toText(rows.value(0)));
     return texts;
 }
 
@@ -81,7 +83,7 @@ QStringList tableColumns(QSqlDatabase const & db, QString const & table)
     QStringList columns;
     QSqlQuery rows = queryRows(db, QStringLiteral("pragma table_info(%1)").arg(table));
     while (rows.next())
-        columns.append(rows.value(1).toString());
+        columns.append(qt5::toText(rows.value(1)));
     return columns;
 }
 

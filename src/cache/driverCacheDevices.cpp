@@ -1,6 +1,7 @@
 #include "cache/databaseAccess.h"
 #include "cache/driverCache.h"
 #include "cache/driverCacheGuidItemList.h"
+#include "core/qt5Conversions.h"
 
 #include <QVariant>
 
@@ -26,11 +27,11 @@ QString guidStatement(bool hasOnoType)
 std::unique_ptr<CDriverCacheGuidItem> itemOfRow(QSqlQuery const & row, CDeviceGuid const & guid,
                                                 bool hasOnoType)
 {
-    auto const access = CDriverCacheGuidItem::GuidAccess(row.value(3).toInt());
-    auto item = std::make_unique<CDriverCacheGuidItem>(guid, row.value(1).toString(), row.value(2).toString(),
-                                                       QString(), access);
+    auto const access = CDriverCacheGuidItem::GuidAccess(qt5::toInt(row.value(3)));
+    auto item = std::make_unique<CDriverCacheGuidItem>(guid, qt5::toText(row.value(1)),
+                                                       qt5::toText(row.value(2)), QString(), access);
     if (hasOnoType)
-        item->setOnoType(static_cast<unsigned char>(row.value(4).toUInt()));
+        item->setOnoType(static_cast<unsigned char>(qt5::toUInt(row.value(4))));
     return item;
 }
 
@@ -43,7 +44,7 @@ void CDriverCache::fillGuidCache()
         bool const hasOnoType = tableColumns(db, QStringLiteral("Guids")).contains(QStringLiteral("OnoType"));
         QSqlQuery rows = queryRows(db, guidStatement(hasOnoType));
         while (rows.next()) {
-            CDeviceGuid const guid(rows.value(0).toString());
+            CDeviceGuid const guid(qt5::toText(rows.value(0)));
             if ((guid.value() & 0xFFU) == skippedType)
                 continue;
             std::unique_ptr<CDriverCacheGuidItem> item = itemOfRow(rows, guid, hasOnoType);
@@ -66,7 +67,8 @@ void CDriverCache::fillHardwaretypeCache()
         QSqlQuery rows =
             queryRows(openConnection(name), QStringLiteral("SELECT Type,DeviceType FROM Hardwaretypes"));
         while (rows.next()) // here, unlike with devices, the last row of a number stands
-            setHardwareType(static_cast<unsigned char>(rows.value(0).toInt()), rows.value(1).toString());
+            setHardwareType(static_cast<unsigned char>(qt5::toInt(rows.value(0))),
+                            qt5::toText(rows.value(1)));
     }
 }
 

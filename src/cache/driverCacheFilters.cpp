@@ -3,6 +3,7 @@
 #include "cache/databaseAccess.h"
 #include "cache/driverCacheChannelKeyFilter.h"
 #include "cache/driverCacheFilterItemList.h"
+#include "core/qt5Conversions.h"
 
 #include <QVariant>
 
@@ -24,7 +25,7 @@ QVariant filterIdFor(QSqlDatabase const & db, CDriverCacheChannelKeyFilter const
     executeWhole(rows);
     while (rows.next()) {
         QVariant filterId = rows.value(0);
-        if (filterId.toInt() / 10 == key.filterNumber())
+        if (qt5::toInt(filterId) / 10 == key.filterNumber())
             return filterId;
     }
     return QVariant();
@@ -33,14 +34,14 @@ QVariant filterIdFor(QSqlDatabase const & db, CDriverCacheChannelKeyFilter const
 std::unique_ptr<CDriverCacheFilterItem> filterOfRow(QSqlQuery const & row)
 {
     auto filter = std::make_unique<CDriverCacheFilterItem>();
-    filter->setFilterId(static_cast<unsigned char>(row.value(0).toUInt()));
-    filter->setFilterNumber(static_cast<unsigned char>(row.value(1).toInt()));
-    filter->setFilterType(static_cast<unsigned char>(row.value(2).toInt()));
-    filter->setMinValue(row.value(3).toInt()); // whole numbers: a fraction is lost
-    filter->setMaxValue(row.value(4).toInt());
-    filter->setFilterName(row.value(5).toString());
-    filter->setTextOffset(static_cast<quint32>(row.value(6).toInt()));
-    filter->setStateText(row.value(7).toString());
+    filter->setFilterId(static_cast<unsigned char>(qt5::toUInt(row.value(0))));
+    filter->setFilterNumber(static_cast<unsigned char>(qt5::toInt(row.value(1))));
+    filter->setFilterType(static_cast<unsigned char>(qt5::toInt(row.value(2))));
+    filter->setMinValue(qt5::toInt(row.value(3))); // whole numbers: a fraction is lost
+    filter->setMaxValue(qt5::toInt(row.value(4)));
+    filter->setFilterName(qt5::toText(row.value(5)));
+    filter->setTextOffset(static_cast<quint32>(qt5::toInt(row.value(6))));
+    filter->setStateText(qt5::toText(row.value(7)));
     return filter;
 }
 
@@ -75,7 +76,7 @@ QString CDriverCache::filterNameFromDatabase(CDriverCacheChannelKeyFilter const 
     for (QString const & connection : std::as_const(connectionNames)) {
         QSqlDatabase const db = openConnection(connection);
         QVariant const filterId = filterIdFor(db, key);
-        if (!filterId.isValid() || filterId.toInt() < 0)
+        if (!filterId.isValid() || qt5::toInt(filterId) < 0)
             continue;
         QSqlQuery row = preparedQuery(
             db, QStringLiteral("SELECT Id, Number, Type, Min, Max, DisplayNameShort,TextOffset, "
@@ -86,10 +87,10 @@ QString CDriverCache::filterNameFromDatabase(CDriverCacheChannelKeyFilter const 
             continue;
         // Said of the key, not of the name: this speaker has no such filter, and no further database is
         // asked.
-        if (row.value(0).toString() == QLatin1String("---"))
+        if (qt5::toText(row.value(0)) == QLatin1String("---"))
             break;
         std::unique_ptr<CDriverCacheFilterItem> filter = filterOfRow(row);
-        QString name = row.value(5).toString();
+        QString name = qt5::toText(row.value(5));
         addFilterItem(&key, filter.release());
         return name;
     }

@@ -1,5 +1,7 @@
 #include "cache/driverCacheObjectClassItem.h"
 
+#include "core/qt5Conversions.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -14,7 +16,7 @@ CDriverCacheObjectClassItem::CDriverCacheObjectClassItem(unsigned char classId, 
     QStringList const parts = ocaClassId.split(QLatin1Char('.'));
     fieldCount_ = static_cast<unsigned char>(std::min<int>(static_cast<int>(parts.size()), capacity));
     for (unsigned char i = 0; i < fieldCount_; ++i)
-        fields_[i] = parts.at(i).toUShort();
+        fields_[i] = qt5::toUShort(parts.at(i));
 }
 
 CDriverCacheObjectClassItem::CDriverCacheObjectClassItem(CDriverCacheObjectClassItem const & other) = default;

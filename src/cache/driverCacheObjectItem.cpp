@@ -1,5 +1,7 @@
 #include "cache/driverCacheObjectItem.h"
 
+#include "core/qt5Conversions.h"
+
 #include <algorithm>
 
 namespace kestrova::Morvel::Devicelore {
@@ -32,7 +34,7 @@ bool CDriverCacheObjectItem::operator==(CDriverCacheObjectItem const & other) co
            name() == other.name() && displayName() == other.displayName() &&
            channelCount() == other.channelCount() && recordCount() == other.recordCount() &&
            format() == other.format() && flags() == other.flags() && access() == other.access() &&
-           defaultValue() == other.defaultValue() && size() == other.size() &&
+           qt5::equal(defaultValue(), other.defaultValue()) && size() == other.size() &&
            textOffset() == other.textOffset() && comment() == other.comment() &&
            waitTime() == other.waitTime() && waitStates() == other.waitStates() &&
            std::equal(ocaClassId(), ocaClassId() + 16, other.ocaClassId()) && classId() == other.classId() &&

@@ -4,6 +4,7 @@
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheObjectClassItemList.h"
 #include "cache/objectQueries.h"
+#include "core/qt5Conversions.h"
 #include "records/objectDef.h"
 
 #include <QVariant>
@@ -31,14 +32,14 @@ public:
         return position < 0 ? QVariant() : query.value(position); // Qt would complain about the position -1
     }
 
-    QString text(QLatin1String column) const { return value(column).toString(); }
+    QString text(QLatin1String column) const { return qt5::toText(value(column)); }
 
-    double real(QLatin1String column) const { return value(column).toDouble(); }
+    double real(QLatin1String column) const { return qt5::toDouble(value(column)); }
 
     template <typename Number>
     Number number(QLatin1String column) const
     {
-        return static_cast<Number>(value(column).toInt());
+        return static_cast<Number>(qt5::toInt(value(column)));
     }
 
 private:
@@ -61,10 +62,11 @@ double fallbackDefault(CObjectDef const & object)
 
 void convertDefaultValue(CObjectDef & object)
 {
-    QVariant number = object.defaultValue();
-    // Unlike toDouble(), this fails for a null value of a numeric type too.
-    bool const isNumber = number.convert(QMetaType::Double);
-    object.setDefaultValue(isNumber ? number : QVariant(fallbackDefault(object)));
+    QVariant const value = object.defaultValue();
+    bool isNumber = false;
+    double const number = qt5::toDouble(value, &isNumber);
+    // A null value of a numeric type converts to 0, and yet says no number.
+    object.setDefaultValue(isNumber && !value.isNull() ? number : fallbackDefault(object));
 }
 
 } // namespace
@@ -181,11 +183,11 @@ void CDriverCache::fillOcaCLassIdList()
         QSqlQuery rows = queryRows(openConnection(name),
                                    QStringLiteral("SELECT Id, OcaClassId, Description FROM ObjectClasses"));
         while (rows.next()) {
-            int const id = rows.value(0).toInt();
+            int const id = qt5::toInt(rows.value(0));
             if (id == 0 || objectClassItems->itemByClassId(static_cast<unsigned short>(id)) != nullptr)
                 continue;
             auto * const item = new CDriverCacheObjectClassItem(
-                static_cast<unsigned char>(id), rows.value(1).toString(), rows.value(2).toString());
+                static_cast<unsigned char>(id), qt5::toText(rows.value(1)), qt5::toText(rows.value(2)));
             objectClassItems->append(item);
             delete added.take(item->classId());
             added.insert(item->classId(), item);

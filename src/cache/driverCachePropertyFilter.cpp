@@ -1,6 +1,7 @@
 #include "cache/driverCachePropertyFilter.h"
 
 #include "cache/databaseAccess.h"
+#include "core/qt5Conversions.h"
 
 #include <QMessageLogger>
 #include <QSet>
@@ -30,10 +31,10 @@ QList<CDevicePropertyFilterItem> definitionsIn(QSqlDatabase const & db, bool has
     QSqlQuery rows = filterRows(db, hasAccess);
     while (rows.next()) {
         CDevicePropertyFilterItem definition;
-        definition.filterName = rows.value(0).toString();
-        definition.expression = rows.value(1).toString();
+        definition.filterName = qt5::toText(rows.value(0));
+        definition.expression = qt5::toText(rows.value(1));
         if (hasAccess)
-            definition.access = static_cast<unsigned char>(rows.value(2).toInt());
+            definition.access = static_cast<unsigned char>(qt5::toInt(rows.value(2)));
         definitions.append(definition);
     }
     return definitions;

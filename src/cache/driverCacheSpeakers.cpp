@@ -3,6 +3,7 @@
 #include "cache/databaseAccess.h"
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheSpeakerItemList.h"
+#include "core/qt5Conversions.h"
 
 #include <QVariant>
 
@@ -16,14 +17,14 @@ namespace {
 std::unique_ptr<CSpeakerDef> speakerOfRow(QSqlQuery const & row, CSpeakerClass const & speakerClass)
 {
     auto speaker = std::make_unique<CSpeakerDef>();
-    speaker->setSpeakerId(static_cast<unsigned short>(row.value(0).toInt()));
-    speaker->setName(row.value(1).toString());
+    speaker->setSpeakerId(static_cast<unsigned short>(qt5::toInt(row.value(0))));
+    speaker->setName(qt5::toText(row.value(1)));
     speaker->setSpeakerClass(speakerClass);
-    speaker->setRib(row.value(3).toInt());
-    speaker->setDisplayNameShort(row.value(4).toString());
-    speaker->setSortOrder(row.value(5).toInt());
-    speaker->setCablefitMaxCount(row.value(6).toInt());
-    speaker->setIsWFSetup(row.value(7).toInt() != 0);
+    speaker->setRib(qt5::toInt(row.value(3)));
+    speaker->setDisplayNameShort(qt5::toText(row.value(4)));
+    speaker->setSortOrder(qt5::toInt(row.value(5)));
+    speaker->setCablefitMaxCount(qt5::toInt(row.value(6)));
+    speaker->setIsWFSetup(qt5::toInt(row.value(7)) != 0);
     return speaker;
 }
 
@@ -44,12 +45,12 @@ void CDriverCache::fillSpeakerClasses(QSqlDatabase const & db)
     QSqlQuery rows =
         queryRows(db, QStringLiteral("SELECT Class,Name,Type,Ways,WayNames FROM SpeakerClasses"));
     while (rows.next()) {
-        auto const number = static_cast<unsigned char>(rows.value(0).toUInt());
+        auto const number = static_cast<unsigned char>(qt5::toUInt(rows.value(0)));
         if (speakerClassItem(number) != nullptr)
             continue; // the first database that defines a class wins
         addSpeakerClassItem(new CDriverCacheSpeakerClassItem(
-            number, rows.value(1).toString(), rows.value(2).toString(),
-            static_cast<unsigned char>(rows.value(3).toUInt()), rows.value(4).toString()));
+            number, qt5::toText(rows.value(1)), qt5::toText(rows.value(2)),
+            static_cast<unsigned char>(qt5::toUInt(rows.value(3))), qt5::toText(rows.value(4))));
     }
 }
 
@@ -60,10 +61,10 @@ void CDriverCache::fillSpeakers(QSqlDatabase const & db)
                                      "CablefitMaxCount, WfActive FROM Speakers"));
     while (rows.next()) {
         // The column is a level and a flag at once: a speaker above the level is not known at all.
-        if (rows.value(7).toInt() > guidSupportedLevel_)
+        if (qt5::toInt(rows.value(7)) > guidSupportedLevel_)
             continue;
         CSpeakerClass speakerClass;
-        auto const classNumber = static_cast<unsigned char>(rows.value(2).toInt());
+        auto const classNumber = static_cast<unsigned char>(qt5::toInt(rows.value(2)));
         if (CDriverCacheSpeakerClassItem const * const item = speakerClassItem(classNumber))
             item->toSpeakerClass(speakerClass);
         std::unique_ptr<CSpeakerDef> speaker = speakerOfRow(rows, speakerClass);
@@ -86,7 +87,7 @@ void CDriverCache::fillGuidSpeakerList(CDeviceGuid const & guid)
     QList<unsigned short> others = speakerItems->speakerIds();
     executeWhole(rows);
     while (rows.next()) {
-        auto const id = static_cast<unsigned short>(rows.value(0).toInt());
+        auto const id = static_cast<unsigned short>(qt5::toInt(rows.value(0)));
         speakerItems->addToSupportedList(guid, id);
         others.removeOne(id); // one only: an id that is defined twice ends up in both lists
     }

@@ -1,6 +1,7 @@
 #include "cache/driverCacheTextItemList.h"
 
 #include "cache/databaseAccess.h"
+#include "core/qt5Conversions.h"
 
 #include <QVariant>
 
@@ -75,7 +76,7 @@ void CDriverCacheTextItemList::textFromDb(unsigned int offset, QString const & c
     if (texts == nullptr)
         texts = new Texts;
     while (rows.next())
-        texts->insert(offset, qMakePair(rows.value(0).toInt(), rows.value(1).toString()));
+        texts->insert(offset, qMakePair(qt5::toInt(rows.value(0)), qt5::toText(rows.value(1))));
 }
 
 void CDriverCacheTextItemList::clear()

@@ -1,5 +1,6 @@
 #include "facade/devicelore.h"
 
+#include "core/qt5Conversions.h"
 #include "records/driverPropertyTarget.h"
 
 #include <QVariant>
@@ -92,7 +93,7 @@ QString CDevicelore::GetFilterName(CDeviceGuid const & guid, int filterNumber,
 
 QString CDevicelore::objectValueString(CDeviceGuid const & guid, int textOffset, QVariant const & value) const
 {
-    return cache->text(guid, static_cast<unsigned int>(textOffset), value.toInt());
+    return cache->text(guid, static_cast<unsigned int>(textOffset), qt5::toInt(value));
 }
 
 int CDevicelore::listValueStrings(CDeviceGuid const & guid, int textOffset, QList<QPair<int, QString>> & list)

@@ -1,6 +1,7 @@
 #include "facade/devicelore.h"
 
 #include "cache/databaseAccess.h"
+#include "core/qt5Conversions.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,11 +17,11 @@ QString const connectionOfDspData = QStringLiteral("DspDataDatabase");
 SpeakerDspData dataOfRow(QSqlQuery const & row, CDeviceGuid const & guid, unsigned short speakerId)
 {
     SpeakerDspData data;
-    data.SetDeviceType(row.value(0).toString());
-    data.SetSpeakerName(row.value(1).toString());
-    data.SetSpeakerSetupVersion(row.value(2).toString());
-    data.SetSpeakerDspData(row.value(3).toByteArray());
-    data.SetMd5(row.value(4).toString());
+    data.SetDeviceType(qt5::toText(row.value(0)));
+    data.SetSpeakerName(qt5::toText(row.value(1)));
+    data.SetSpeakerSetupVersion(qt5::toText(row.value(2)));
+    data.SetSpeakerDspData(qt5::toBytes(row.value(3)));
+    data.SetMd5(qt5::toText(row.value(4)));
     data.SetSpeakerId(speakerId);
     data.SetDeviceGuid(guid);
     return data;

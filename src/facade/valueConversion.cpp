@@ -1,5 +1,6 @@
 #include "facade/devicelore.h"
 
+#include "core/qt5Conversions.h"
 #include "records/scaledNumber.h"
 
 #include <QMessageLogger>
@@ -39,7 +40,7 @@ bool numberToReal(CObjectDef const & object, Number raw, QVariant & value)
         return false;
     bool isNumber = true; // a text that is no number counts as 0, but for hexadecimal objects
     if (object.objectType() == CObjectDef::ObjectTypeHex)
-        value = QVariant(double(text.toUInt(&isNumber, 16)));
+        value = QVariant(double(qt5::toUInt(text, &isNumber, 16)));
     else
         value = QVariant(printedNumber(text));
     return isNumber;
@@ -49,7 +50,7 @@ bool textToReal(CObjectDef const & object, QVariant & value)
 {
     if (object.mask().testFlag(ObjectDefFlags) && (object.flags() & textOnlyFlag) != 0)
         return false;
-    QByteArray bytes(value.toString().toLatin1().constData()); // up to the first NUL
+    QByteArray bytes(qt5::toText(value).toLatin1().constData()); // up to the first NUL
     int const length = static_cast<int>(bytes.size());
     bytes.append(bytesThatAFormatMayRead, '\0');
     QString text;
@@ -86,7 +87,7 @@ bool convertRange(CObjectDef & object, Convert convert)
     for (Member const & member : members) {
         QVariant value((object.*member.get)());
         if (convert(value))
-            (object.*member.set)(value.toDouble());
+            (object.*member.set)(qt5::toDouble(value));
         else
             all = false;
     }
@@ -99,7 +100,7 @@ CDevicelore::ValidationState validateToggle(QVariant & value)
         QMessageLogger().warning("Invalid value or type");
         return CDevicelore::Invalid;
     }
-    int const number = value.toInt();
+    int const number = qt5::toInt(value);
     if (number < 0) {
         value = QVariant(0);
         return CDevicelore::AdjustedToMin;
@@ -115,7 +116,7 @@ CDevicelore::ValidationState validateToggle(QVariant & value)
 // again, even where the step grid leads past the maximum.
 CDevicelore::ValidationState validateNumber(QVariant & value, CObjectDef const & object, bool roundToStep)
 {
-    double const number = value.toDouble(); // 0 for what is no number
+    double const number = qt5::toDouble(value); // 0 for what is no number
     value = QVariant(number);
     if (object.minValue() > number) {
         value = QVariant(object.minValue());
@@ -137,7 +138,7 @@ CDevicelore::ValidationState validateNumber(QVariant & value, CObjectDef const &
 CDevicelore::ValidationState validateText(QVariant & value, CObjectDef const & object)
 {
     int const limit = object.size() - 1; // the terminator takes one place; -1 for an object without any
-    QString const text = value.toString();
+    QString const text = qt5::toText(value);
     if (text.size() <= limit)
         return CDevicelore::Valid;
     value = QVariant(text.left(std::max(limit, 0)));
@@ -151,14 +152,14 @@ bool CDevicelore::deviceToReal(CObjectDef const & object, QVariant & value)
     switch (value.userType()) {
     case QMetaType::Int:
     case QMetaType::Double:
-        return numberToReal(object, value.toInt(), value);
+        return numberToReal(object, qt5::toInt(value), value);
     case QMetaType::UInt:
-        return numberToReal(object, value.toUInt(), value);
+        return numberToReal(object, qt5::toUInt(value), value);
     case QMetaType::QString:
         return textToReal(object, value);
     case QMetaType::QByteArray:
         if (object.objectType() == CObjectDef::ObjectTypeString)
-            value = QVariant(value.toString());
+            value = QVariant(qt5::toText(value));
         return false; // though the bytes have become a text
     default:
         return false;
@@ -171,13 +172,14 @@ bool CDevicelore::realToDevice(CObjectDef const & object, QVariant & value)
     switch (object.objectType()) {
     case CObjectDef::ObjectTypeToggle:
     case CObjectDef::ObjectTypeNumber:
-        text = QString::number(value.toDouble(), 'f', 4); // finer values are rounded here
+        text = QString::number(qt5::toDouble(value), 'f', 4); // finer values are rounded here
         break;
     case CObjectDef::ObjectTypeString:
-        text = value.toString();
+        text = qt5::toText(value);
         break;
     case CObjectDef::ObjectTypeHex:
-        text = QString::number(integerPart(value.toDouble()), 16);
+        // Unsigned: Qt 6 would put a minus sign in front of the digits of a negative number.
+        text = QString::number(static_cast<quint64>(integerPart(qt5::toDouble(value))), 16);
         break;
     default:
         return false;

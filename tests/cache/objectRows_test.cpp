@@ -10,6 +10,8 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
+#include <limits>
+
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
@@ -281,8 +283,11 @@ TEST(ObjectRow, MakesANumberOfTheDefaultValueThatTheRecordBrought)
         guids + newerObjects +
         QStringLiteral("INSERT INTO Objects VALUES (1, 'Gain', 1, 5, 1, 1, 2, 10, 1, '%d', 3, 11, '7', 2, 0, "
                        "'', '', 0, 0, 0); INSERT INTO guidsandobjects VALUES (1, 'C7000005');"));
-    QVariant nullInt{QString()};
-    nullInt.convert(QMetaType::Int);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QVariant const nullInt(QVariant::Int);
+#else
+    QVariant const nullInt(QMetaType::fromType<int>());
+#endif
     ASSERT_EQ(nullInt.userType(), int(QMetaType::Int));
     ASSERT_TRUE(nullInt.isNull());
 
@@ -307,6 +312,27 @@ TEST(ObjectRow, MakesANumberOfTheDefaultValueThatTheRecordBrought)
         EXPECT_EQ(object.defaultValue(), QVariant(row.result));
         EXPECT_EQ(object.defaultValue().userType(), int(QMetaType::Double));
     }
+}
+
+TEST(ObjectRow, ConvertsOddValuesAlikeWithEveryQt)
+{
+    OneDatabase database(
+        guids + newerObjects +
+        QStringLiteral("INSERT INTO Objects VALUES (1, 'Gain', 1, 5, 4, 3, x'3165343030', '1e400', 0.5, "
+                       "x'25730061', -2.5, "
+                       "char(160) || '21', 100000.0, 2, -0.5, char(65, 0, 66), x'', 9, 250, 6);"
+                       "INSERT INTO guidsandobjects VALUES (1, 'C7000005');"));
+    CObjectDef const object = database.read("Gain");
+    EXPECT_EQ(object.minValue(), std::numeric_limits<double>::infinity()) << "from bytes";
+    EXPECT_EQ(object.maxValue(), std::numeric_limits<double>::infinity()) << "from a text";
+    EXPECT_EQ(object.format(), QStringLiteral("%s")) << "bytes end at the first NUL";
+    EXPECT_EQ(object.flags(), 65534) << "a half is rounded up: -2";
+    EXPECT_EQ(object.access(), 21) << "behind a no-break space";
+    EXPECT_EQ(object.textOffset(), 0U) << "a half is rounded up";
+    EXPECT_EQ(object.displayName().size(), 3) << "a text keeps its U+0000";
+    EXPECT_FALSE(object.comment().isNull()) << "no bytes are an empty text";
+    EXPECT_EQ(object.defaultValue(), QVariant(QStringLiteral("100000.0")))
+        << "a text object's stays what it is";
 }
 
 TEST(ObjectRow, IsTakenFromAnyQueryInTheOrderOfTheColumnsGiven)

@@ -37,7 +37,7 @@ TEST_F(DamagedDatabase, FailsOrAnswersRightWhicheverByteIsChanged)
     QByteArray const content = contentOf(file);
     std::string const names = allNames();
     std::mt19937 random(20240229); // NOLINT(cert-msc51-cpp): the same bytes in every run
-    std::uniform_int_distribution<int> anyOffset(0, content.size() - 1);
+    std::uniform_int_distribution<int> anyOffset(0, static_cast<int>(content.size()) - 1);
     std::uniform_int_distribution<int> anyChange(1, 255);
 
     int failures = 0;
@@ -74,7 +74,7 @@ TEST_F(DamagedDatabase, FailsOnlyWhereAStatementTouchesTheDamage)
 {
     makeEncryptedSample(file);
     QByteArray const content = contentOf(file);
-    int const inTheLastPageOfTheBlob = content.size() - 2000;
+    int const inTheLastPageOfTheBlob = static_cast<int>(content.size()) - 2000;
     ASSERT_TRUE(openChanged(content, inTheLastPageOfTheBlob, 1));
     EXPECT_EQ(ask(QStringLiteral("SELECT name FROM Names WHERE id = 1")), "name of 1");
     EXPECT_EQ(ask(QStringLiteral("SELECT hex(data) FROM Blobs")), "error");

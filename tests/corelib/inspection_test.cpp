@@ -230,7 +230,7 @@ TEST(Inspection, FindsEveryChangedByteOfVersion4)
     makeEncryptedSample(path, version4);
     QByteArray const content = contentOf(path);
     std::mt19937 random(20240229); // NOLINT(cert-msc51-cpp): the same bytes in every run
-    std::uniform_int_distribution<int> anyOffsetBehindTheSalt(16, content.size() - 1);
+    std::uniform_int_distribution<int> anyOffsetBehindTheSalt(16, static_cast<int>(content.size()) - 1);
     for (int i = 0; i < 200; ++i) {
         int const offset = anyOffsetBehindTheSalt(random);
         writeContent(path, content);

@@ -47,7 +47,7 @@ public:
                           encrypting);
         EVP_CIPHER_CTX_set_padding(context, 0);
         EVP_CipherUpdate(context, reinterpret_cast<unsigned char *>(result.data()), &written, bytes(text),
-                         text.size());
+                         static_cast<int>(text.size()));
         EVP_CIPHER_CTX_free(context);
         return result;
     }

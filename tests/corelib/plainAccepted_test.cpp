@@ -89,7 +89,8 @@ TEST_F(PlainDatabaseAccepted, IsRefusedWhenCutShort)
 {
     makePlainSample(file);
     QByteArray const content = contentOf(file);
-    for (int const size : {99, 100, 2000, 4096, 5000, 8192, content.size() - 4096, content.size() - 1}) {
+    int const whole = static_cast<int>(content.size());
+    for (int const size : {99, 100, 2000, 4096, 5000, 8192, whole - 4096, whole - 1}) {
         SCOPED_TRACE(size);
         writeContent(file, content.left(size));
         EXPECT_FALSE(open(file));

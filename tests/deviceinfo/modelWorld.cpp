@@ -62,7 +62,7 @@ std::string said(QVariant const & answer)
 {
     if (!answer.isValid())
         return "invalid";
-    return std::string(QMetaType::typeName(answer.userType())) + ' ' + answer.toString().toStdString();
+    return std::string(answer.typeName()) + ' ' + answer.toString().toStdString();
 }
 
 } // namespace kestrova::test

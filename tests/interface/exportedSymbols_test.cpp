@@ -12,6 +12,16 @@ using kestrova::test::runProgram;
 
 namespace {
 
+/// A name with the types of Qt as Qt 5 calls them, so that one list is right for both.
+QString withNamesOfQt5(QString name)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    name.replace(QLatin1String("QList<QString>"), QLatin1String("QStringList"));
+    name.replace(QLatin1String("std::pair<"), QLatin1String("QPair<"));
+#endif
+    return name;
+}
+
 /// The names that the library exports, readable and sorted. What the C++ library brings along is left out.
 QStringList exportedSymbols()
 {
@@ -24,7 +34,7 @@ QStringList exportedSymbols()
                                 .output;
     QStringList names;
     for (auto match = line.globalMatch(listing); match.hasNext();)
-        names.append(match.next().captured(1));
+        names.append(withNamesOfQt5(match.next().captured(1)));
     names.sort();
     names.removeDuplicates();
     return names;

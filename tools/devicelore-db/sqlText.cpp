@@ -43,9 +43,9 @@ public:
     /// letters.
     void checkCharacters() const
     {
-        if (int const nul = text.indexOf('\0'); nul >= 0)
+        if (auto const nul = text.indexOf('\0'); nul >= 0)
             throw failure(text.constData() + nul, QStringLiteral("there is a NUL character in the text"));
-        for (int start = 0, end = 0; start < text.size(); start = end + 1) {
+        for (decltype(text.size()) start = 0, end = 0; start < text.size(); start = end + 1) {
             end = text.indexOf('\n', start);
             if (end < 0)
                 end = text.size();

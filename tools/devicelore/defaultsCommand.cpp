@@ -1,4 +1,5 @@
 #include "command.h"
+#include "core/qt5Conversions.h"
 #include "deviceArgument.h"
 #include "optionValue.h"
 
@@ -84,7 +85,7 @@ Default propertyDefault(Inspector & inspector, CDriverPropertyTarget const & tar
 
 QString textOf(Default const & found)
 {
-    return found.value.isValid() ? found.value.toString() : QStringLiteral("none");
+    return found.value.isValid() ? qt5::toText(found.value) : QStringLiteral("none");
 }
 
 QJsonObject jsonOf(Default const & found)

@@ -1,5 +1,7 @@
 #include "descriptionRows.h"
 
+#include "core/qt5Conversions.h"
+
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -31,7 +33,7 @@ QStringList columnsOfObjects(QString const & database)
     QStringList columns;
     QSqlQuery rows = queryOn(database, QStringLiteral("pragma table_info(Objects)"), {});
     while (rows.next())
-        columns.append(rows.value(1).toString());
+        columns.append(qt5::toText(rows.value(1)));
     return columns;
 }
 
@@ -98,8 +100,8 @@ QVector<GuidRow> guidRows(QString const & database, CDeviceGuid const & guid)
                                "WHERE Guids.GUID LIKE'C7%'"),
                 {});
     while (rows.next()) {
-        if (CDeviceGuid(rows.value(0).toString()) == guid)
-            found.append({rows.value(1).toString(), rows.value(3).toInt()});
+        if (CDeviceGuid(qt5::toText(rows.value(0))) == guid)
+            found.append({qt5::toText(rows.value(1)), qt5::toInt(rows.value(3))});
     }
     return found;
 }
@@ -139,7 +141,7 @@ QVector<ObjectLink> linksOfObject(QString const & database, ObjectQuestion const
                 condition.values);
     QVector<ObjectLink> links;
     while (query.next())
-        links.append({query.value(0).toString(), query.value(1).toString(), query.value(2).toString()});
+        links.append({qt5::toText(query.value(0)), qt5::toText(query.value(1)), qt5::toText(query.value(2))});
     return links;
 }
 
@@ -152,7 +154,7 @@ QStringList linkedNames(QString const & database, CDeviceGuid const & guid)
                                "guidsandobjects.objectid = objects.id AND guidsandobjects.guid = ?"),
                 {guid.toString()});
     while (query.next())
-        names.append(query.value(0).toString());
+        names.append(qt5::toText(query.value(0)));
     return names;
 }
 

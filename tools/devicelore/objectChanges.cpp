@@ -1,5 +1,6 @@
 #include "objectChanges.h"
 
+#include "core/qt5Conversions.h"
 #include "objectText.h"
 #include "optionValue.h"
 #include "rawValue.h"
@@ -51,7 +52,7 @@ char const * const otherColumns[] = {"Name", "Format", "DefaultValue", "Descript
 bool readsAs(QVariant const & stored, double number)
 {
     bool isNumber = false;
-    double const value = stored.toDouble(&isNumber);
+    double const value = qt5::toDouble(stored, &isNumber);
     return isNumber && value == number;
 }
 
@@ -96,8 +97,8 @@ void addDefault(QVector<Change> & changes, ObjectStations const & object)
     bool const isText = object.read.objectType() == CObjectDef::ObjectTypeString;
     changes.append(
         {QStringLiteral("default"), rawText(stored),
-         isText ? quoted(object.read.defaultValue().toString()) : valueText(object.read.defaultValue()),
-         whyThisDefault(stored.toString(), object.read), byReading});
+         isText ? quoted(qt5::toText(object.read.defaultValue())) : valueText(object.read.defaultValue()),
+         whyThisDefault(qt5::toText(stored), object.read), byReading});
 }
 
 QString limitsText(CObjectDef const & object)

@@ -1,5 +1,6 @@
 #include "objectText.h"
 
+#include "core/qt5Conversions.h"
 #include "optionValue.h"
 
 #include <QStringList>
@@ -61,7 +62,7 @@ QString rightsText(CObjectDef const & object)
 QString valueText(QVariant const & value)
 {
     bool const isReal = value.userType() == QMetaType::Double || value.userType() == QMetaType::Float;
-    return isReal ? numberText(value.toDouble()) : value.toString();
+    return isReal ? numberText(value.toDouble()) : qt5::toText(value);
 }
 
 } // namespace kestrova::inspector

@@ -1,4 +1,5 @@
 #include "command.h"
+#include "core/qt5Conversions.h"
 #include "deviceArgument.h"
 #include "objectArgument.h"
 #include "objectText.h"
@@ -156,7 +157,7 @@ Answer conversionAnswer(CObjectDef const & object, QString const & from, QVarian
     if (!isConverted) {
         answer.exitCode = ExitNotFound;
         answer.complaint = QStringLiteral("the format \"%1\" of %2 cannot convert '%3'")
-                               .arg(object.format(), object.name(), given.toString());
+                               .arg(object.format(), object.name(), qt5::toText(given));
         return answer;
     }
     QString const real = to == QLatin1String("real") ? valueText(result) : valueText(given);

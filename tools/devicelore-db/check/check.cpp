@@ -1,5 +1,7 @@
 #include "check/check.h"
 
+#include "core/qt5Conversions.h"
+
 #include <array>
 
 namespace kestrova::authoring {
@@ -30,7 +32,7 @@ QString subjectOf(Table const & table, int row)
         return QStringLiteral("speaker %1 (%2)").arg(table.text(row, "SpeakerId"), table.text(row, "Name"));
     if (table.name == QLatin1String("Filters"))
         return QStringLiteral("filter %1").arg(table.text(row, "Id"));
-    return table.value(row, 0).toString();
+    return qt5::toText(table.value(row, 0));
 }
 
 Findings checkDescriptions(DescriptionSet & set, sqlcipher::Progress const & progress)

@@ -1,5 +1,7 @@
 #include "check/finding.h"
 
+#include "core/qt5Conversions.h"
+
 #include <QStringList>
 #include <QVariant>
 
@@ -53,7 +55,7 @@ QVector<Finding> Findings::sorted() const
 
 QString shownValue(QVariant const & value)
 {
-    if (value.isNull())
+    if (qt5::isNull(value))
         return QStringLiteral("NULL");
     switch (value.userType()) {
     case QMetaType::QByteArray:
@@ -61,7 +63,7 @@ QString shownValue(QVariant const & value)
     case QMetaType::QString:
         return QStringLiteral("\"%1\"").arg(shortened(printable(value.toString())));
     default:
-        return value.toString();
+        return qt5::toText(value);
     }
 }
 

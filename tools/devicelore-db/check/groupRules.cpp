@@ -1,5 +1,7 @@
 #include "check/check.h"
 
+#include "core/qt5Conversions.h"
+
 #include <QCryptographicHash>
 #include <QSet>
 #include <QSqlError>
@@ -45,7 +47,7 @@ void checkGroup(Inspected const & inspected, Table const & groups, int row)
     }
     QStringList names;
     while (query.next())
-        names.append(query.value(0).toString());
+        names.append(qt5::toText(query.value(0)));
     checkNames(inspected, groups, row, names);
 }
 
@@ -79,11 +81,11 @@ void checkDspRow(Inspected const & inspected, Table const & data, int row)
 
     for (char const * const column :
          {"DeviceType", "SpeakerName", "SpeakerVersion", "BlobData", "BlobDataMD5"}) {
-        if (data.value(row, column).toByteArray().isEmpty())
+        if (qt5::toBytes(data.value(row, column)).isEmpty())
             inspected.report("dsp-incomplete", data, row, column, subject,
                              QStringLiteral("%1 is empty").arg(QLatin1String(column)));
     }
-    QByteArray const bytes = data.value(row, "BlobData").toByteArray();
+    QByteArray const bytes = qt5::toBytes(data.value(row, "BlobData"));
     QString const md5 = QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
     QString const stated = data.text(row, "BlobDataMD5");
     if (!bytes.isEmpty() && !stated.isEmpty() && stated.compare(md5, Qt::CaseInsensitive) != 0)

@@ -1,5 +1,6 @@
 #include "check/objectFormat.h"
 
+#include "core/qt5Conversions.h"
 #include "records/formatSpec.h"
 #include "records/latin1Text.h"
 #include "records/objectDef.h"
@@ -146,7 +147,7 @@ bool comesBack(double number, Format const & format, CDevicelore & library, QStr
     QVariant const raw(rawOf(number, format));
     QVariant value = raw;
     library.deviceToReal(format.object, value);
-    shown = value.toString();
+    shown = qt5::toText(value);
     library.realToDevice(format.object, value);
     int const again = value.userType() == QMetaType::Float ? rawOf(value.toDouble(), format) : value.toInt();
     return again == raw.toInt();

@@ -1,6 +1,7 @@
 #include "check/check.h"
 #include "check/objectFormat.h"
 
+#include "core/qt5Conversions.h"
 #include "core/roundOnStep.h"
 #include "records/objectDef.h"
 
@@ -75,13 +76,13 @@ void checkRange(ObjectRow const & row)
 void checkDefault(ObjectRow const & row)
 {
     CObjectDef const & object = row.object;
-    QString const text = object.defaultValue().toString();
+    QString const text = qt5::toText(object.defaultValue());
     if (text.isEmpty()) {
         row.report("default-missing", "DefaultValue", QStringLiteral("there is no default value"));
         return;
     }
     bool isNumber = false;
-    double const value = object.defaultValue().toDouble(&isNumber);
+    double const value = qt5::toDouble(object.defaultValue(), &isNumber);
     if (!isNumber)
         row.report("default-not-a-number", "DefaultValue", QStringLiteral("\"%1\" is no number").arg(text));
     else if (value < object.minValue() || value > object.maxValue())
@@ -199,7 +200,7 @@ QHash<qint64, int> rowsById(Table const & objects)
 {
     QHash<qint64, int> rows;
     for (int row = 0; row < objects.rowCount(); ++row)
-        rows.insert(objects.value(row, "id").toLongLong(), row);
+        rows.insert(qt5::toInt64(objects.value(row, "id")), row);
     return rows;
 }
 
@@ -216,7 +217,7 @@ void checkLinks(Inspected const & inspected)
     QSet<QString> reportedGuids;
     for (int row = 0; row < links.rowCount(); ++row) {
         QString const guid = links.text(row, "guid");
-        qint64 const id = links.value(row, "objectid").toLongLong();
+        qint64 const id = qt5::toInt64(links.value(row, "objectid"));
         QString const subject = QStringLiteral("%1 - %2").arg(guid, QString::number(id));
         QString const owner = inspected.set.cache().connectionName(CDeviceGuid(guid));
         bool const isAsked = isGuidText(guid) && owner == inspected.database.file;

@@ -1,5 +1,6 @@
 #include "check/check.h"
 #include "check/columns.h"
+#include "core/qt5Conversions.h"
 
 #include <QSqlQuery>
 
@@ -84,7 +85,7 @@ QStringList leadingColumns(Inspected const & inspected, Table const & table)
     QString const indexes = QStringLiteral("PRAGMA index_list(%1)").arg(quoted(table.name));
     for (QVariant const & index : columnOf(inspected, indexes, 1)) {
         QString const statement = QStringLiteral("PRAGMA index_info(%1)").arg(quoted(index.toString()));
-        columns.append(columnOf(inspected, statement, 2).value(0).toString());
+        columns.append(qt5::toText(columnOf(inspected, statement, 2).value(0)));
     }
     return columns;
 }
@@ -144,16 +145,16 @@ Bounds boundsOf(Reading reading)
 
 bool isDeliberatelyNoFilter(Reading reading, QVariant const & value)
 {
-    return reading == Reading::FilterNumber && value.toString() == QLatin1String("---");
+    return reading == Reading::FilterNumber && qt5::toText(value) == QLatin1String("---");
 }
 
 /// The rule that a value breaks; null when it breaks none.
 char const * brokenRule(QVariant const & value, KnownColumn const & known)
 {
-    if (value.isNull())
+    if (qt5::isNull(value))
         return "null-value";
     bool isNumber = false;
-    double const number = value.toDouble(&isNumber);
+    double const number = qt5::toDouble(value, &isNumber);
     if (!isNumber || value.userType() == QMetaType::QByteArray)
         return "not-a-number";
     Bounds const bounds = boundsOf(known.reading);
@@ -168,7 +169,7 @@ char const * brokenRule(QVariant const & value, KnownColumn const & known)
 
 QString messageOf(QVariant const & value, KnownColumn const & known)
 {
-    if (value.isNull())
+    if (qt5::isNull(value))
         return QStringLiteral("%1 is NULL").arg(QLatin1String(known.name));
     QString is = QStringLiteral("%1 is %2").arg(QLatin1String(known.name), shownValue(value));
     switch (known.reading) {

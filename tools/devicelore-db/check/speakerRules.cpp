@@ -1,5 +1,6 @@
 #include "check/check.h"
 
+#include "core/qt5Conversions.h"
 #include "records/speakerDef.h"
 
 #include <QSet>
@@ -132,7 +133,7 @@ namespace {
 bool isNumber(QVariant const & value)
 {
     bool ok = false;
-    value.toInt(&ok);
+    qt5::toInt(value, &ok);
     return ok;
 }
 
@@ -197,9 +198,9 @@ void checkFitting(Fittings & fittings, int row)
         fittings.reportOnce("speaker-missing", row, "SpeakerId", QStringLiteral("speaker %1").arg(speaker),
                             QStringLiteral("no database defines the speaker %1").arg(speaker));
 
-    QString const filterText = filter.toString();
+    QString const filterText = qt5::toText(filter);
     fittings.usedFilters.insert(filterText);
-    if (isNumber(filter) && filter.toInt() < 0) {
+    if (isNumber(filter) && qt5::toInt(filter) < 0) {
         fittings.reportOnce("filter-negative", row, "FilterId", QStringLiteral("filter %1").arg(filterText),
                             QStringLiteral("the filter is %1").arg(filterText));
         return;
@@ -208,7 +209,7 @@ void checkFitting(Fittings & fittings, int row)
         fittings.reportOnce("filter-missing", row, "FilterId", QStringLiteral("filter %1").arg(filterText),
                             QStringLiteral("Filters has no row %1").arg(filterText));
 
-    int const slot = filter.toInt() / 10;
+    int const slot = qt5::toInt(filter) / 10;
     QString const place = QStringLiteral("%1/%2/%3").arg(guid).arg(speaker).arg(slot);
     auto const first = fittings.firstOfSlot.constFind(place);
     if (first == fittings.firstOfSlot.constEnd())

@@ -1,5 +1,7 @@
 #include "check/table.h"
 
+#include "core/qt5Conversions.h"
+
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -15,7 +17,7 @@ QString nameInDatabase(QSqlDatabase const & database, QString const & name)
     query.prepare(QStringLiteral(
         "SELECT name FROM sqlite_master WHERE name = ? COLLATE NOCASE AND type IN ('table', 'view')"));
     query.bindValue(0, name);
-    return query.exec() && query.next() ? query.value(0).toString() : QString();
+    return query.exec() && query.next() ? qt5::toText(query.value(0)) : QString();
 }
 
 } // namespace
@@ -47,7 +49,7 @@ Table Table::read(QSqlDatabase const & database, QString const & name)
             values.append(query.value(i));
         table.rows.append(values);
         // A view has rowids that are NULL.
-        table.rowNumbers.append(hasRowid && !query.isNull(0) ? query.value(0).toLongLong()
+        table.rowNumbers.append(hasRowid && !query.isNull(0) ? qt5::toInt64(query.value(0))
                                                              : table.rows.size());
     }
     if (query.lastError().isValid())

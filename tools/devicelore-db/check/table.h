@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/qt5Conversions.h"
+
 #include <QMap>
 #include <QSqlDatabase>
 #include <QString>
@@ -22,7 +24,7 @@ public:
 
     bool isPresent() const { return !spelledName.isNull(); }
 
-    int rowCount() const { return rows.size(); }
+    int rowCount() const { return static_cast<int>(rows.size()); }
 
     /// The rowid, or the position in a table without one. The id of Objects is its rowid.
     qint64 rowNumber(int row) const { return rowNumbers.at(row); }
@@ -39,9 +41,9 @@ public:
         return value(row, column(QLatin1String(columnName)));
     }
 
-    QString text(int row, char const * columnName) const { return value(row, columnName).toString(); }
+    QString text(int row, char const * columnName) const { return qt5::toText(value(row, columnName)); }
 
-    int number(int row, char const * columnName) const { return value(row, columnName).toInt(); }
+    int number(int row, char const * columnName) const { return qt5::toInt(value(row, columnName)); }
 
 private:
     QVector<qint64> rowNumbers;

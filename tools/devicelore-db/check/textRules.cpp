@@ -1,5 +1,7 @@
 #include "check/check.h"
 
+#include "core/qt5Conversions.h"
+
 #include <QMap>
 #include <QSet>
 
@@ -45,7 +47,7 @@ QMap<qint64, Group> readGroups(Inspected const & inspected, Table const & texts)
 {
     QMap<qint64, Group> groups;
     for (int row = 0; row < texts.rowCount(); ++row) {
-        qint64 const offset = texts.value(row, "TextOffset").toLongLong();
+        qint64 const offset = qt5::toInt64(texts.value(row, "TextOffset"));
         int const value = texts.number(row, "Value");
         Group & group = groups[offset];
         if (group.contains(value))
@@ -62,9 +64,9 @@ void checkTranslations(Inspected const & inspected, Table const & texts)
     QStringList const languages = languagesOf(texts);
     for (int row = 0; row < texts.rowCount(); ++row) {
         for (QString const & language : languages) {
-            if (!texts.value(row, texts.column(language)).toString().isEmpty())
+            if (!qt5::toText(texts.value(row, texts.column(language))).isEmpty())
                 continue;
-            qint64 const offset = texts.value(row, "TextOffset").toLongLong();
+            qint64 const offset = qt5::toInt64(texts.value(row, "TextOffset"));
             inspected.report("text-missing", texts, row, language.toUtf8().constData(),
                              valueSubject(offset, texts.number(row, "Value")),
                              QStringLiteral("there is no text in %1").arg(language));
@@ -94,13 +96,13 @@ QMap<qint64, std::vector<User>> usersOf(Inspected const & inspected)
     for (char const * const name : {"Objects", "Filters"}) {
         Table const & table = inspected.database.table(name);
         for (int row = 0; row < table.rowCount(); ++row) {
-            qint64 const offset = table.value(row, "TextOffset").toLongLong();
+            qint64 const offset = qt5::toInt64(table.value(row, "TextOffset"));
             if (offset > 0)
                 users[offset].push_back(
                     {&table,
                      row,
                      subjectOf(table, row),
-                     {table.value(row, "Min").toDouble(), table.value(row, "Max").toDouble()}});
+                     {qt5::toDouble(table.value(row, "Min")), qt5::toDouble(table.value(row, "Max"))}});
         }
     }
     return users;

@@ -1,5 +1,6 @@
 #include "diff/view.h"
 
+#include "core/qt5Conversions.h"
 #include "records/driverPropertyTarget.h"
 #include "records/objectDef.h"
 
@@ -23,12 +24,12 @@ QHash<qint64, Members> readTexts(Table const & texts)
 {
     QHash<qint64, Members> groups;
     for (int row = 0; row < texts.rowCount(); ++row) {
-        Members & group = groups[texts.value(row, "TextOffset").toLongLong()];
+        Members & group = groups[qt5::toInt64(texts.value(row, "TextOffset"))];
         for (int column = 0; column < texts.columns.size(); ++column) {
             QString const & language = texts.columns.at(column);
-            if (language.startsWith(QLatin1String("TextShort_")) && !texts.value(row, column).isNull())
+            if (language.startsWith(QLatin1String("TextShort_")) && !qt5::isNull(texts.value(row, column)))
                 group.insert(QStringLiteral("text %1 %2").arg(language.mid(10), texts.text(row, "Value")),
-                             texts.value(row, column).toString());
+                             qt5::toText(texts.value(row, column)));
         }
     }
     return groups;
@@ -46,7 +47,7 @@ Members membersOf(CObjectDef const & object)
             {QStringLiteral("format"), object.format()},
             {QStringLiteral("flags"), QString::number(object.flags())},
             {QStringLiteral("access"), QString::number(object.access())},
-            {QStringLiteral("default"), object.defaultValue().toString()},
+            {QStringLiteral("default"), qt5::toText(object.defaultValue())},
             {QStringLiteral("size"), QString::number(object.size())},
             {QStringLiteral("name for people"), object.displayName()},
             {QStringLiteral("comment"), object.comment()},
@@ -80,7 +81,7 @@ QHash<qint64, NamedObject> readObjects(DescriptionSet & set, Database const & da
         Members const group = texts.value(object.textOffset());
         for (auto text = group.constBegin(); text != group.constEnd(); ++text)
             members.insert(text.key(), text.value());
-        objects.insert(query.value(id).toLongLong(), {object.name(), members});
+        objects.insert(qt5::toInt64(query.value(id)), {object.name(), members});
     }
     return objects;
 }
@@ -111,7 +112,7 @@ void viewObjects(DescriptionSet & set, Database const & database, SetView & view
     Table const & links = database.table("guidsandobjects");
     for (int row = 0; row < links.rowCount(); ++row) {
         QString const guid = links.text(row, "guid");
-        auto const object = objects.constFind(links.value(row, "objectid").toLongLong());
+        auto const object = objects.constFind(qt5::toInt64(links.value(row, "objectid")));
         auto const device = view.devices.find(guid);
         if (object == objects.constEnd() || device == view.devices.end() || !isOwner(set, database, guid))
             continue;
