@@ -23,8 +23,13 @@ endif()
 file(RELATIVE_PATH source_from_build "${CMAKE_BINARY_DIR}" "${PROJECT_SOURCE_DIR}")
 add_compile_options("-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=" "-fmacro-prefix-map=${source_from_build}=")
 
+# Nothing that the oldest supported version of the chosen Qt calls deprecated.
+if(KESTROVA_QT EQUAL 5)
+    add_compile_definitions(QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+else()
+    add_compile_definitions(QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+endif()
 add_compile_definitions(
-    QT_DISABLE_DEPRECATED_BEFORE=0x050F00
     QT_NO_CAST_TO_ASCII
     QT_NO_FOREACH
     QT_NO_KEYWORDS)

@@ -3,8 +3,11 @@
 
 include(CMakePackageConfigHelpers)
 
-set(kestrovaHeaderDir "${CMAKE_INSTALL_INCLUDEDIR}/kestrovaDevicelore")
-set(kestrovaPackageDir "${CMAKE_INSTALL_LIBDIR}/cmake/kestrovaDevicelore")
+# The headers are the same for each Qt, yet each build has its own: either may be removed or upgraded without the other.
+set(kestrovaPackage "kestrovaDevicelore${kestrovaSuffix}")
+set(kestrovaHeaderDir "${CMAKE_INSTALL_INCLUDEDIR}/${kestrovaPackage}")
+set(kestrovaPackageDir "${CMAKE_INSTALL_LIBDIR}/cmake/${kestrovaPackage}")
+set(kestrovaPkgConfigDir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 
 set(kestrovaLibraries kestrovaCoreHeaders kestrovaDevicelore)
 if(KESTROVA_CORE)
@@ -14,7 +17,7 @@ else()
     list(APPEND kestrovaLibraries kestrovaCore)
 endif()
 install(TARGETS ${kestrovaLibraries}
-    EXPORT kestrovaDeviceloreTargets
+    EXPORT ${kestrovaPackage}Targets
     LIBRARY
         DESTINATION "${CMAKE_INSTALL_LIBDIR}"
         COMPONENT runtime
@@ -24,21 +27,36 @@ install(TARGETS ${kestrovaLibraries}
         COMPONENT development
     INCLUDES DESTINATION "${kestrovaHeaderDir}")
 
-install(EXPORT kestrovaDeviceloreTargets
+install(EXPORT ${kestrovaPackage}Targets
     NAMESPACE kestrova::
     DESTINATION "${kestrovaPackageDir}"
     COMPONENT development)
 
 configure_package_config_file(
     "${CMAKE_CURRENT_LIST_DIR}/kestrovaDeviceloreConfig.cmake.in"
-    "${PROJECT_BINARY_DIR}/kestrovaDeviceloreConfig.cmake"
+    "${PROJECT_BINARY_DIR}/${kestrovaPackage}Config.cmake"
     INSTALL_DESTINATION "${kestrovaPackageDir}"
     NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(
-    "${PROJECT_BINARY_DIR}/kestrovaDeviceloreConfigVersion.cmake"
+    "${PROJECT_BINARY_DIR}/${kestrovaPackage}ConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
 install(FILES
-    "${PROJECT_BINARY_DIR}/kestrovaDeviceloreConfig.cmake"
-    "${PROJECT_BINARY_DIR}/kestrovaDeviceloreConfigVersion.cmake"
+    "${PROJECT_BINARY_DIR}/${kestrovaPackage}Config.cmake"
+    "${PROJECT_BINARY_DIR}/${kestrovaPackage}ConfigVersion.cmake"
     DESTINATION "${kestrovaPackageDir}"
+    COMPONENT development)
+
+# Where the prefix is, the .pc file tells from its own place.
+file(RELATIVE_PATH kestrovaPrefixFromPc "/prefix/${kestrovaPkgConfigDir}" "/prefix")
+if(KESTROVA_CORE)
+    set(kestrovaCoreLibrary "") # it is not installed from here: the application names its own
+else()
+    set(kestrovaCoreLibrary " -lkestrovaCore${kestrovaSuffix}")
+endif()
+configure_file(
+    "${CMAKE_CURRENT_LIST_DIR}/kestrovaDevicelore.pc.in"
+    "${PROJECT_BINARY_DIR}/${kestrovaPackage}.pc"
+    @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/${kestrovaPackage}.pc"
+    DESTINATION "${kestrovaPkgConfigDir}"
     COMPONENT development)

@@ -1,5 +1,23 @@
 # What can be set when the project is configured.
 
+set(KESTROVA_QT 5 CACHE STRING "The Qt to build with: 5 or 6")
+set_property(CACHE KESTROVA_QT PROPERTY STRINGS 5 6)
+if(NOT KESTROVA_QT MATCHES "^[56]$")
+    message(FATAL_ERROR "KESTROVA_QT is the Qt to build with, 5 or 6, and not '${KESTROVA_QT}'.")
+endif()
+set(kestrovaQt "Qt${KESTROVA_QT}")
+
+# Both builds can be installed into one prefix: that with Qt 5 has the plain names, that with Qt 6 adds "Qt6" to the
+# names of its libraries, packages and header folder. The tools do the same in both, and are installed from one.
+if(KESTROVA_QT EQUAL 5)
+    set(kestrovaSuffix "")
+    set(installTools ON)
+else()
+    set(kestrovaSuffix Qt6)
+    set(installTools OFF)
+endif()
+option(KESTROVA_INSTALL_TOOLS "Install the command line tools; on by default with Qt 5" ${installTools})
+
 set(KESTROVA_CORE "" CACHE STRING
     "The core library to build against: a CMake target or the path of a shared library; empty builds the stand-in")
 
