@@ -1,5 +1,7 @@
 #include "cache/driverCacheSpeakerItemList.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <array>
 
@@ -43,6 +45,20 @@ bool fits(CSpeakerDef const & speaker, QFlags<SpeakerType> types, OutputMode mod
     ClassRule const & rule = ruleOf(speakerClass.classNumber);
     auto const modeNumber = static_cast<unsigned>(mode); // "no mode" becomes a large number and fits nothing
     return types.testFlag(rule.type) && modeNumber >= rule.firstMode && modeNumber <= rule.lastMode;
+}
+
+void addEachOnce(QMultiHash<CDeviceGuid, unsigned short> & list, CDeviceGuid const & guid,
+                 QList<unsigned short> const & ids)
+{
+    QSet<unsigned short> known;
+    for (unsigned short const id : list.values(guid))
+        known.insert(id);
+    for (unsigned short const id : ids) {
+        if (known.contains(id))
+            continue;
+        known.insert(id);
+        list.insert(guid, id);
+    }
 }
 
 } // namespace
@@ -95,6 +111,18 @@ void CDriverCacheSpeakerItemList::addToNotSupportedList(CDeviceGuid const & guid
 {
     if (!notSupportedList.contains(guid, speakerId))
         notSupportedList.insert(guid, speakerId);
+}
+
+void CDriverCacheSpeakerItemList::addToSupportedList(CDeviceGuid const & guid,
+                                                     QList<unsigned short> const & ids)
+{
+    addEachOnce(supportedList, guid, ids);
+}
+
+void CDriverCacheSpeakerItemList::addToNotSupportedList(CDeviceGuid const & guid,
+                                                        QList<unsigned short> const & ids)
+{
+    addEachOnce(notSupportedList, guid, ids);
 }
 
 CDriverCacheSpeakerItemList::SpeakerSupported

@@ -50,6 +50,10 @@ public:
     void addToSupportedList(CDeviceGuid const & guid, unsigned short speakerId);
     void addToNotSupportedList(CDeviceGuid const & guid, unsigned short speakerId);
 
+    /// The same for all of them, in order, without a walk through the device's speakers for each.
+    void addToSupportedList(CDeviceGuid const & guid, QList<unsigned short> const & speakerIds);
+    void addToNotSupportedList(CDeviceGuid const & guid, QList<unsigned short> const & speakerIds);
+
     /// By the whole id. The supported list is asked first: an id may be in both.
     SpeakerSupported isSpeakerSupportedByDevice(unsigned short speakerId, CDeviceGuid const & guid) const;
 

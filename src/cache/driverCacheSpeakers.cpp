@@ -84,15 +84,25 @@ void CDriverCache::fillGuidSpeakerList(CDeviceGuid const & guid)
     rows.bindValue(0, guid.toString().toUpper(), QSql::In);
     rows.bindValue(1, int(guidSupportedLevel_), QSql::In);
 
-    QList<unsigned short> others = speakerItems->speakerIds();
+    QList<unsigned short> supported;
+    QHash<unsigned short, int> definitionsToSkip; // by id
     executeWhole(rows);
     while (rows.next()) {
         auto const id = static_cast<unsigned short>(qt5::toInt(rows.value(0)));
-        speakerItems->addToSupportedList(guid, id);
-        others.removeOne(id); // one only: an id that is defined twice ends up in both lists
+        supported.append(id);
+        ++definitionsToSkip[id];
     }
-    for (unsigned short const id : std::as_const(others))
-        speakerItems->addToNotSupportedList(guid, id);
+    // A row takes one definition only: an id that is defined twice ends up in both lists.
+    QList<unsigned short> others;
+    for (unsigned short const id : speakerItems->speakerIds()) {
+        auto const skip = definitionsToSkip.find(id);
+        if (skip != definitionsToSkip.end() && *skip > 0)
+            --*skip;
+        else
+            others.append(id);
+    }
+    speakerItems->addToSupportedList(guid, supported);
+    speakerItems->addToNotSupportedList(guid, others);
 }
 
 void CDriverCache::addSpeakerClassItem(CDriverCacheSpeakerClassItem * item)

@@ -56,9 +56,9 @@ QString outdatedText(QStringList const & lines, QString const & path)
 {
     if (lines.isEmpty())
         return {};
-    return QStringLiteral(
-               "%1 lines of %2 accept what is no longer there; write it anew with --write-baseline\n")
-        .arg(QString::number(lines.size()), path);
+    return QStringLiteral("%1 of %2 accept what is no longer there; write it anew with --write-baseline\n")
+        .arg(lines.size() == 1 ? QStringLiteral("1 line") : QStringLiteral("%1 lines").arg(lines.size()),
+             path);
 }
 
 ExitCode exitCodeOf(QVector<Finding> const & findings, bool isStrict)
@@ -87,14 +87,14 @@ Answer check(ParsedArguments const & arguments)
 
     QVector<Finding> findings;
     {
-        LongWork work(QStringLiteral("checking"));
+        LongWork work(QStringLiteral("checking"), LongWork::WritesNothing);
         DescriptionSet set(arguments.words);
         findings = checkDescriptions(set, work.progress()).sorted();
     }
+    QStringList const outdated = baseline.outdated(findings);
     findings = withoutRules(findings, arguments.values("ignore"));
     if (arguments.isSet("write-baseline"))
         writeFile(arguments.value("write-baseline"), Baseline::textOf(findings));
-    QStringList const outdated = baseline.outdated(findings);
     findings = notAccepted(findings, baseline);
 
     Answer answer;

@@ -30,10 +30,12 @@ void endAfterSignal()
 
 } // namespace
 
-LongWork::LongWork(QString const & what)
+LongWork::LongWork(QString const & what, Ending ending)
     : action(what)
     , isShown(isatty(STDERR_FILENO) == 1)
 {
+    if (ending == WritesNothing)
+        return;
     for (int const signal : endingSignals)
         std::signal(signal, remember);
 }

@@ -11,7 +11,12 @@ namespace kestrova::authoring {
 /// begun is left behind.
 class LongWork {
 public:
-    explicit LongWork(QString const & action);
+    enum Ending {
+        WritesFiles,   ///< a signal ends it at its next step
+        WritesNothing, ///< a signal may end the tool at once
+    };
+
+    explicit LongWork(QString const & action, Ending ending = WritesFiles);
     ~LongWork();
     LongWork(LongWork const &) = delete;
     LongWork & operator=(LongWork const &) = delete;

@@ -57,7 +57,7 @@ TEST(DescriptionDiff, TellsHowAnObjectChangesAndWhetherThatBreaks)
         {"Step", "5", R"(compatible  object Trim, step: "25" -> "5")"},
         {"Step", "10", R"(breaking    object Trim, step: "25" -> "10")"},
         {"Step", "50", R"(breaking    object Trim, step: "25" -> "50")"},
-        {"Step", "0", R"(breaking    object Trim, step: "25" -> "0")"},
+        {"Step", "0", R"(compatible  object Trim, step: "25" -> "0")"},
         {"Format", "'%+7.2d dB'", R"(compatible  object Trim, format: "%+6.2d dB" -> "%+7.2d dB")"},
         {"Format", "'%+6.1d dB'", R"(breaking    object Trim, format: "%+6.2d dB" -> "%+6.1d dB")"},
         {"Format", "'%+6.2d dBu'", R"(breaking    object Trim, format: "%+6.2d dB" -> "%+6.2d dBu")"},
@@ -136,6 +136,22 @@ TEST(DescriptionDiff, TellsWhatElseAnApplicationSees)
         {"UPDATE Filters SET DisplayNameShort = 'Cut' WHERE Id = 11",
          "compatible  support of speaker 11, filter 1: \"Low cut\" -> \"Cut\"  (C7000012 and 1 more)\n"
          "0 breaking, 1 compatible\n"},
+        {"UPDATE GuidsSpeakersFilters SET Access = 5 WHERE GUID = 'C7000112' AND SpeakerId = 68",
+         "breaking    support of speaker 68, level: \"1\" -> \"5\"  (C7000112)\n1 breaking, 0 compatible\n"},
+        {"UPDATE DevicePropertyFilter SET Access = 5",
+         "breaking    group Channel, level: \"1\" -> \"5\"\n1 breaking, 0 compatible\n"},
+        {"UPDATE Filters SET Max = 3 WHERE Id = 11", "compatible  support of speaker 11, filter 1 range: \"0 "
+                                                     "to 1\" -> \"0 to 3\"  (C7000012 and 1 more)\n"
+                                                     "0 breaking, 1 compatible\n"},
+        {"UPDATE SpeakerClasses SET Ways = 2 WHERE Class = 0",
+         "breaking    class of speakers 0, ways: \"1\" -> \"2\"\n1 breaking, 0 compatible\n"},
+        {"UPDATE ObjectClasses SET OcaClassId = '9.9'",
+         "compatible  object class 1, OCA class: \"1.2.5\" -> \"9.9\"\n0 breaking, 1 compatible\n"},
+        {"ALTER TABLE Guids DROP COLUMN OnoType", "0 breaking, 0 compatible\n"},
+        {"CREATE TABLE SpeakerData (GUID, SpeakerId, DeviceType, SpeakerName, SpeakerVersion, BlobData, "
+         "BlobDataMD5); "
+         "INSERT INTO SpeakerData VALUES ('C7000012', 71, 'Hesko', 'Linear', '1', 'abc', 'x')",
+         "compatible  DSP data of C7000012, speaker 71: added\n0 breaking, 1 compatible\n"},
         {"UPDATE Guids SET DeviceType = 'Vesni'; UPDATE Hardwaretypes SET DeviceType = 'Hesko'",
          "compatible  default speakers, mode 2 channel 1: \"11\" -> \"37\"  (C7000012 and 1 more)\n"},
     };

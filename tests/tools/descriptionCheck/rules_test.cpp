@@ -166,7 +166,7 @@ std::vector<Row> const & rows()
         {"guid-text", "INSERT INTO Guids VALUES ('C7HESKO1', 'Hesko', '1', 1, 1)", "", "",
          "a.db3, Guids, GUID, C7HESKO1: \"C7HESKO1\" is no GUID [guid-text]"},
         {"guid-text", "UPDATE Guids SET GUID = 'c7000112' WHERE GUID = 'C7000112'", "", "",
-         "a.db3, Guids, GUID, c7000112: \"c7000112\" is not in upper case [guid-text]"},
+         "a.db3, Guids, GUID, c7000112: \"c7000112\" is not eight digits in upper case [guid-text]"},
         {"guid-type",
          "INSERT INTO Guids VALUES ('C7000003', 'Hesko', '1', 1, 1), ('C70000A0', 'Hesko', '1', 1, 1)", "",
          "",
@@ -180,7 +180,8 @@ std::vector<Row> const & rows()
          "a.db3, Hardwaretypes, DeviceType, hardware type 4: no device is of the model \"Lumbo\" "
          "[hardware-unknown]"},
         {"index-missing", "DROP INDEX TextsByOffset", "", "",
-         "a.db3, TextsObjectValues, , : CREATE INDEX TextsObjectValuesByOffset ON TextsObjectValues "
+         "a.db3, TextsObjectValues, , TextOffset: CREATE INDEX TextsObjectValuesByOffset ON "
+         "TextsObjectValues "
          "(TextOffset) [index-missing]"},
         {"level-hides-type", "UPDATE Guids SET Access = 2", "", "",
          "a.db3, Guids, Access, type 12: devices of the type are seen from level 2 on [level-hides-type]"},

@@ -92,23 +92,13 @@ std::vector<KnownColumn> const & knownColumns()
 std::vector<KnownIndex> const & knownIndexes()
 {
     static std::vector<KnownIndex> const all{
-        {"Objects", {"Name"}, "CREATE INDEX ObjectsByName ON Objects (Name)"},
-        {"Objects",
-         {"ObjectNumber", "BoxNumber"},
-         "CREATE INDEX ObjectsByNumber ON Objects (ObjectNumber, BoxNumber)"},
-        {"guidsandobjects",
-         {"objectid", "guid"},
-         "CREATE INDEX GuidsAndObjectsByObject ON guidsandobjects (objectid, guid)"},
-        {"TextsObjectValues",
-         {"TextOffset"},
-         "CREATE INDEX TextsObjectValuesByOffset ON TextsObjectValues (TextOffset)"},
-        {"GuidsSpeakersFilters",
-         {"GUID", "SpeakerId"},
-         "CREATE INDEX GuidsSpeakersFiltersByGuid ON GuidsSpeakersFilters (GUID, SpeakerId)"},
-        {"Filters", {"Id"}, "CREATE INDEX FiltersById ON Filters (Id)"},
-        {"SpeakerData",
-         {"GUID", "SpeakerId"},
-         "CREATE INDEX SpeakerDataByGuid ON SpeakerData (GUID, SpeakerId)"},
+        {"Objects", {"Name"}, "ObjectsByName"},
+        {"Objects", {"ObjectNumber", "BoxNumber"}, "ObjectsByNumber"},
+        {"guidsandobjects", {"objectid", "guid"}, "GuidsAndObjectsByObject"},
+        {"TextsObjectValues", {"TextOffset"}, "TextsObjectValuesByOffset"},
+        {"GuidsSpeakersFilters", {"GUID", "SpeakerId"}, "GuidsSpeakersFiltersByGuid"},
+        {"Filters", {"Id"}, "FiltersById"},
+        {"SpeakerData", {"GUID", "SpeakerId"}, "SpeakerDataByGuid"},
     };
     return all;
 }

@@ -39,7 +39,7 @@ std::vector<KnownColumn> const & knownColumns();
 struct KnownIndex {
     char const * table;
     std::vector<char const *> columns;
-    char const * statement; ///< that makes the index
+    char const * name; ///< that `devicelore-db new` gives it
 };
 
 std::vector<KnownIndex> const & knownIndexes();

@@ -2,6 +2,8 @@
 
 #include "check/columns.h"
 
+#include "cache/driverCacheChannelKeyFilter.h"
+#include "cache/driverCacheFilterItemList.h"
 #include "cache/driverCacheObjectClassItemList.h"
 #include "cache/driverCacheSpeakerItemList.h"
 
@@ -45,6 +47,12 @@ QSet<int> LibraryCache::speakerIds() const
     for (unsigned short const id : speakerItems->speakerIds())
         ids.insert(id);
     return ids;
+}
+
+CDriverCacheFilterItem const * LibraryCache::filter(CDeviceGuid const & guid,
+                                                    CDeviceChannelInfo const & channel, int number) const
+{
+    return filterItems->item({guid, &channel, static_cast<unsigned char>(number)});
 }
 
 Table const & Database::table(char const * name) const

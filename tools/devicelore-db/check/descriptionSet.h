@@ -32,6 +32,11 @@ public:
     bool hasObjectClass(unsigned short classId) const;
 
     QSet<int> speakerIds() const;
+
+    /// A filter that was named before; null when the speaker has none.
+    Morvel::Devicelore::CDriverCacheFilterItem const *
+    filter(Morvel::Devicelore::CDeviceGuid const & guid,
+           Morvel::Devicelore::CDeviceChannelInfo const & channel, int number) const;
 };
 
 /// One database while it is looked at, with all of its tables.

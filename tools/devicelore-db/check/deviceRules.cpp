@@ -53,8 +53,9 @@ bool isDevice(Inspected const & inspected, Table const & guids, int row)
     }
     if (!isGuidText(text))
         inspected.report("guid-text", guids, row, "GUID", text,
-                         guid.isNull() ? QStringLiteral("\"%1\" is no GUID").arg(text)
-                                       : QStringLiteral("\"%1\" is not in upper case").arg(text));
+                         guid.isNull()
+                             ? QStringLiteral("\"%1\" is no GUID").arg(text)
+                             : QStringLiteral("\"%1\" is not eight digits in upper case").arg(text));
     if ((guid.value() >> 24U) != 0xC7U)
         return false;
     if (typeOf(guid) == typeThatIsSkipped || typeOf(guid) < firstDeviceType) {

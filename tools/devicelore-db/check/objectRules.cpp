@@ -19,6 +19,7 @@ namespace {
 
 constexpr int highestBox = 31;
 constexpr int highestObject = 255;
+constexpr int movesInSingleSteps = 0x20; // a flag
 
 QString textOf(double number)
 {
@@ -65,6 +66,14 @@ void checkRange(ObjectRow const & row)
         row.report("range-inverted", "Min",
                    QStringLiteral("the range is %1 to %2")
                        .arg(textOf(object.minValue()), textOf(object.maxValue())));
+}
+
+void checkStep(ObjectRow const & row)
+{
+    CObjectDef const & object = row.object;
+    double const range = object.maxValue() - object.minValue();
+    if (object.objectType() == CObjectDef::ObjectTypeToggle)
+        return; // a toggle is never rounded
     if (object.step() <= 0)
         row.report("step-not-positive", "Step", QStringLiteral("the step is %1").arg(textOf(object.step())));
     else if (range >= 0 && object.step() > range)
@@ -116,6 +125,8 @@ QVector<CObjectDef> readObjects(Inspected const & inspected, Table const & table
         object.setMask(everything);
         inspected.set.cache().takeQuery(query, everything, table.columns, object);
         object.determineObjectType();
+        if ((object.flags() & movesInSingleSteps) != 0 && object.step() > 1.0)
+            object.setStep(1.0); // as the cache does
         objects.append(object);
     }
     return objects;
@@ -130,8 +141,10 @@ void checkObjects(Inspected const & inspected)
     for (int row = 0; row < objects.size() && row < table.rowCount(); ++row) {
         ObjectRow const object{inspected, table, row, objects.at(row)};
         checkAddress(object);
-        if (object.isNumber()) {
+        if (object.isNumber())
             checkRange(object);
+        if (object.isNumber() && object.object.isWriteable()) {
+            checkStep(object);
             checkDefault(object);
         }
         checkUnchecked(object);

@@ -82,6 +82,13 @@ QString quoted(QString name)
 QStringList leadingColumns(Inspected const & inspected, Table const & table)
 {
     QStringList columns;
+    QString const keys = QStringLiteral("PRAGMA table_info(%1)").arg(quoted(table.name));
+    QVector<QVariant> const names = columnOf(inspected, keys, 1);
+    QVector<QVariant> const positions = columnOf(inspected, keys, 5);
+    for (int i = 0; i < names.size() && i < positions.size(); ++i) {
+        if (qt5::toInt(positions.at(i)) == 1)
+            columns.append(qt5::toText(names.at(i))); // the first column of the primary key
+    }
     QString const indexes = QStringLiteral("PRAGMA index_list(%1)").arg(quoted(table.name));
     for (QVariant const & index : columnOf(inspected, indexes, 1)) {
         QString const statement = QStringLiteral("PRAGMA index_info(%1)").arg(quoted(index.toString()));
@@ -98,13 +105,36 @@ bool hasIndex(Inspected const & inspected, Table const & table, KnownIndex const
     });
 }
 
+bool isView(Inspected const & inspected, Table const & table)
+{
+    QString const statement =
+        QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'view' AND name = '%1' COLLATE NOCASE");
+    return !columnOf(inspected, statement.arg(table.name), 0).isEmpty();
+}
+
+/// The columns of an index that the table can have: older databases lack BoxNumber.
+QString columnsOf(Table const & table, KnownIndex const & known)
+{
+    QStringList columns;
+    for (char const * const column : known.columns) {
+        if (table.column(QLatin1String(column)) >= 0)
+            columns.append(QLatin1String(column));
+    }
+    return columns.join(QStringLiteral(", "));
+}
+
 void checkIndexes(Inspected const & inspected)
 {
     for (KnownIndex const & known : knownIndexes()) {
         Table const & table = inspected.database.table(known.table);
-        if (table.rowCount() > 0 && !hasIndex(inspected, table, known))
-            inspected.findings.add("index-missing", placeOf(inspected, table), {},
-                                   QLatin1String(known.statement));
+        if (table.rowCount() == 0 || isView(inspected, table) || hasIndex(inspected, table, known))
+            continue;
+        QString const columns = columnsOf(table, known);
+        Place place = placeOf(inspected, table);
+        place.subject = columns;
+        inspected.findings.add(
+            "index-missing", place, {},
+            QStringLiteral("CREATE INDEX %1 ON %2 (%3)").arg(QLatin1String(known.name), table.name, columns));
     }
 }
 
@@ -155,12 +185,15 @@ char const * brokenRule(QVariant const & value, KnownColumn const & known)
         return "null-value";
     bool isNumber = false;
     double const number = qt5::toDouble(value, &isNumber);
+    bool const isWhole = known.reading != Reading::Real;
+    if (isNumber && isWhole && value.userType() == QMetaType::QString)
+        value.toString().toLongLong(&isNumber); // a text is read as a whole number, or as 0
     if (!isNumber || value.userType() == QMetaType::QByteArray)
         return "not-a-number";
     Bounds const bounds = boundsOf(known.reading);
     if (number < bounds.lowest || number > bounds.highest)
         return "number-cut";
-    if (known.reading != Reading::Real && number != std::floor(number)) {
+    if (isWhole && number != std::floor(number)) {
         bool const isLimitOfFilter = QLatin1String(known.table) == QLatin1String("Filters");
         return isLimitOfFilter ? "filter-fraction" : "number-fraction";
     }

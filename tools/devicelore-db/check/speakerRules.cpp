@@ -80,6 +80,11 @@ bool areWaysOfOneSpeaker(QStringList const & left, QStringList const & right)
     return left.at(id) != right.at(id) && left.at(displayName) == right.at(displayName);
 }
 
+QString more(QVector<SeenRow> const & rows)
+{
+    return rows.size() == 1 ? QString() : QStringLiteral(" and %1 more").arg(rows.size() - 1);
+}
+
 void checkTwins(Inspected const & inspected, Table const & speakers, int row)
 {
     QStringList const content = contentOf(speakers, row,
@@ -93,21 +98,23 @@ void checkTwins(Inspected const & inspected, Table const & speakers, int row)
     }
     QString const subject = subjectOf(speakers, row);
     QVector<SeenRow> strangers; // that have nothing in common with this one but the low byte
+    QVector<SeenRow> namesakes;
     for (SeenRow const & other : others) {
         if (other.content.first() == content.first())
-            inspected.report(
-                "speaker-redefined", speakers, row, "SpeakerId", subject,
-                QStringLiteral("%1 of %2 has other contents").arg(other.place.subject, other.place.file));
+            namesakes.append(other);
         else if (!areWaysOfOneSpeaker(other.content, content))
             strangers.append(other);
     }
+    if (!namesakes.isEmpty())
+        inspected.report(
+            "speaker-redefined", speakers, row, "SpeakerId", subject,
+            QStringLiteral("%1 of %2%3 has other contents")
+                .arg(namesakes.last().place.subject, namesakes.last().place.file, more(namesakes)));
     if (!strangers.isEmpty()) {
         Place const & last = strangers.last().place;
-        QString const more =
-            strangers.size() == 1 ? QString() : QStringLiteral(" and %1 more").arg(strangers.size() - 1);
         inspected.report("same-low-byte", speakers, row, "SpeakerId", subject,
                          QStringLiteral("it has the low byte %1, like %2 of %3%4")
-                             .arg(QString::number(id & 0xFF), last.subject, last.file, more));
+                             .arg(QString::number(id & 0xFF), last.subject, last.file, more(strangers)));
     }
     others.append({{inspected.database.file, speakers.name, speakers.rowNumber(row), {}, subject}, content});
 }
@@ -158,7 +165,8 @@ void checkLimits(Inspected const & inspected, Table const & filters)
         if (filters.number(row, "Min") > filters.number(row, "Max"))
             inspected.report("filter-limits", filters, row, "Min", subjectOf(filters, row),
                              QStringLiteral("the range is %1 to %2")
-                                 .arg(filters.text(row, "Min"), filters.text(row, "Max")));
+                                 .arg(QString::number(filters.number(row, "Min")),
+                                      QString::number(filters.number(row, "Max"))));
     }
 }
 
@@ -205,7 +213,8 @@ void checkFitting(Fittings & fittings, int row)
                             QStringLiteral("the filter is %1").arg(filterText));
         return;
     }
-    if (!fittings.filters.contains(filterText))
+    bool const isNone = isNumber(filter) && qt5::toInt(filter) == 0; // a speaker without filters
+    if (!isNone && !fittings.filters.contains(filterText))
         fittings.reportOnce("filter-missing", row, "FilterId", QStringLiteral("filter %1").arg(filterText),
                             QStringLiteral("Filters has no row %1").arg(filterText));
 

@@ -40,9 +40,14 @@ bool ifADigitIsRaised(QString const & before, QString const & after)
     return after.toInt() / 10 > before.toInt() / 10 || after.toInt() % 10 > before.toInt() % 10;
 }
 
-/// Values on the old grid lie on the new one only when the old step is a multiple of the new.
+/// Values on the old grid lie on the new one only when the old step is a multiple of the new. Without a step
+/// nothing is rounded.
 bool ifStepsAreLost(QString const & before, QString const & after)
 {
+    if (after.toDouble() <= 0)
+        return false;
+    if (before.toDouble() <= 0)
+        return true;
     double const steps = before.toDouble() / after.toDouble();
     return !(std::abs(steps - std::round(steps)) < 1e-9 * std::max(1.0, std::abs(steps)));
 }
@@ -93,6 +98,9 @@ constexpr BreakRule breakRules[] = {
     {"speaker", "Cablefit count", ifLowered},
     {"speaker", "Wavefold level", ifRaised},
     {"hardware", "model", always},
+    {"support", "level", ifRaised},
+    {"group", "level", ifRaised},
+    {"class", "ways", always},
 };
 
 bool isBreaking(QString const & thing, QString const & member, QString const & before, QString const & after)

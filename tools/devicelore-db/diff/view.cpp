@@ -1,10 +1,14 @@
 #include "diff/view.h"
 
+#include "cache/driverCacheFilterItem.h"
 #include "core/qt5Conversions.h"
 #include "records/driverPropertyTarget.h"
 #include "records/objectDef.h"
 
+#include <QCryptographicHash>
 #include <QSqlQuery>
+
+#include <algorithm>
 
 using namespace kestrova::Morvel::Devicelore;
 
@@ -91,6 +95,12 @@ bool isOwner(DescriptionSet & set, Database const & database, QString const & gu
     return set.cache().connectionName(CDeviceGuid(guid)) == database.file;
 }
 
+/// A database of the older form has 1 for all.
+QString onoType(Table const & guids, int row)
+{
+    return guids.column(QStringLiteral("OnoType")) < 0 ? QStringLiteral("1") : guids.text(row, "OnoType");
+}
+
 void viewDevices(DescriptionSet & set, Database const & database, SetView & view)
 {
     Table const & guids = database.table("Guids");
@@ -102,7 +112,7 @@ void viewDevices(DescriptionSet & set, Database const & database, SetView & view
                                   {{QStringLiteral("model"), guids.text(row, "DeviceType")},
                                    {QStringLiteral("firmware"), guids.text(row, "Version")},
                                    {QStringLiteral("level"), guids.text(row, "Access")},
-                                   {QStringLiteral("remote numbering"), guids.text(row, "OnoType")}});
+                                   {QStringLiteral("remote numbering"), onoType(guids, row)}});
     }
 }
 
@@ -122,19 +132,40 @@ void viewObjects(DescriptionSet & set, Database const & database, SetView & view
     }
 }
 
-void viewSpeakersOf(DescriptionSet & set, QString const & guid, Things & device)
+/// The lowest level at which a device has a speaker, by "GUID/speaker".
+QHash<QString, int> supportLevels(Database const & database)
+{
+    QHash<QString, int> levels;
+    Table const & table = database.table("GuidsSpeakersFilters");
+    for (int row = 0; row < table.rowCount(); ++row) {
+        QString const key = table.text(row, "GUID") + QLatin1Char('/') + table.text(row, "SpeakerId");
+        int const level = table.number(row, "Access");
+        levels.insert(key, std::min(level, levels.value(key, level)));
+    }
+    return levels;
+}
+
+void viewSpeakersOf(DescriptionSet & set, QHash<QString, int> const & levels, QString const & guid,
+                    Things & device)
 {
     CDeviceGuid const value(guid);
     QList<unsigned short> ids;
     set.library().listSpeakersForDevice(value, ids);
     for (unsigned short const id : ids) {
         Members & speaker = device[QStringLiteral("support of speaker %1").arg(id)];
+        speaker.insert(QStringLiteral("level"),
+                       QString::number(levels.value(QStringLiteral("%1/%2").arg(guid).arg(id))));
         CDeviceChannelInfo channel;
         channel.SetSpeakerId(id);
         for (int slot = 1; slot <= 7; ++slot) {
             QString const filter = set.library().GetFilterName(value, slot, &channel);
-            if (!filter.isNull())
-                speaker.insert(QStringLiteral("filter %1").arg(slot), filter);
+            if (filter.isNull())
+                continue;
+            speaker.insert(QStringLiteral("filter %1").arg(slot), filter);
+            if (CDriverCacheFilterItem const * const item = set.cache().filter(value, channel, slot))
+                speaker.insert(
+                    QStringLiteral("filter %1 range").arg(slot),
+                    QStringLiteral("%1 to %2").arg(textOf(item->minValue()), textOf(item->maxValue())));
         }
     }
 }
@@ -156,6 +187,17 @@ void viewDefaultSpeakers(DescriptionSet & set, QString const & guid, Things & de
         device.insert(QStringLiteral("default speakers"), defaults);
 }
 
+/// The devices that this database supplies.
+QStringList ownGuids(DescriptionSet & set, Database const & database, SetView const & view)
+{
+    QStringList own;
+    for (QString const & guid : view.devices.keys()) {
+        if (isOwner(set, database, guid))
+            own.append(guid);
+    }
+    return own;
+}
+
 void viewSpeakers(Database const & database, SetView & view)
 {
     Table const & speakers = database.table("Speakers");
@@ -174,7 +216,48 @@ void viewSpeakers(Database const & database, SetView & view)
                            {{QStringLiteral("model"), hardware.text(row, "DeviceType")}});
 }
 
-void viewGroups(DescriptionSet & set, SetView & view)
+void viewClasses(Database const & database, SetView & view)
+{
+    Table const & classes = database.table("SpeakerClasses");
+    for (int row = 0; row < classes.rowCount(); ++row) {
+        QString const name = QStringLiteral("class of speakers ") + classes.text(row, "Class");
+        if (!view.things.contains(name)) // the first row counts
+            view.things.insert(name, {{QStringLiteral("ways"), classes.text(row, "Ways")},
+                                      {QStringLiteral("way names"), classes.text(row, "WayNames")}});
+    }
+    Table const & objectClasses = database.table("ObjectClasses");
+    for (int row = 0; row < objectClasses.rowCount(); ++row) {
+        QString const name = QStringLiteral("object class ") + objectClasses.text(row, "Id");
+        if (!view.things.contains(name))
+            view.things.insert(name, {{QStringLiteral("OCA class"), objectClasses.text(row, "OcaClassId")}});
+    }
+}
+
+void viewDspData(Database const & database, SetView & view)
+{
+    Table const & data = database.table("SpeakerData");
+    for (int row = 0; row < data.rowCount(); ++row) {
+        QString const name = QStringLiteral("DSP data of %1, speaker %2")
+                                 .arg(data.text(row, "GUID"), data.text(row, "SpeakerId"));
+        QByteArray const hash =
+            QCryptographicHash::hash(data.value(row, "BlobData").toByteArray(), QCryptographicHash::Sha256);
+        if (!view.things.contains(name))
+            view.things.insert(name, {{QStringLiteral("version"), data.text(row, "SpeakerVersion")},
+                                      {QStringLiteral("hash"), QString::fromLatin1(hash.toHex())}});
+    }
+}
+
+void viewGroups(Database const & database, SetView & view)
+{
+    Table const & groups = database.table("DevicePropertyFilter");
+    for (int row = 0; row < groups.rowCount(); ++row) {
+        Members & members = view.things[QStringLiteral("group ") + groups.text(row, "FilterName")];
+        if (!members.contains(QStringLiteral("level")))
+            members.insert(QStringLiteral("level"), QString::number(groups.number(row, "Access") & 0xFF));
+    }
+}
+
+void viewGroupMembers(DescriptionSet & set, SetView & view)
 {
     CDevicelore const & library = set.library();
     for (QString const & group : library.enumDevicePropertyFilter()) {
@@ -194,13 +277,17 @@ SetView viewOf(DescriptionSet & set)
         viewDevices(set, database, view);
         viewObjects(set, database, view);
         viewSpeakers(database, view);
+        viewClasses(database, view);
+        viewGroups(database, view);
+        viewDspData(database, view);
+        QHash<QString, int> const levels = supportLevels(database);
+        for (QString const & guid : ownGuids(set, database, view)) {
+            viewSpeakersOf(set, levels, guid, view.devices[guid]);
+            viewDefaultSpeakers(set, guid, view.devices[guid]);
+        }
     }
     set.cache().setDevicePropertyFilterAccessLevel(255);
-    viewGroups(set, view);
-    for (auto device = view.devices.begin(); device != view.devices.end(); ++device) {
-        viewSpeakersOf(set, device.key(), *device);
-        viewDefaultSpeakers(set, device.key(), *device);
-    }
+    viewGroupMembers(set, view);
     return view;
 }
 
