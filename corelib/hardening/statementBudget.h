@@ -16,7 +16,7 @@ struct StatementBudget {
     /// In bytes. By so much SQLite's memory may grow, beyond the size of the file for the page cache: sorting
     /// and recursion hold their rows in memory. And so much may the rows hold that it gives, for whoever
     /// collects them.
-    sqlite3_int64 memory = 512 * 1024 * 1024;
+    sqlite3_int64 memory = sqlite3_int64(512) * 1024 * 1024;
 };
 
 /// Holds each statement that begins on \a database to the budget, until the connection is closed. Takes

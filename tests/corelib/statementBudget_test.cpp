@@ -127,7 +127,7 @@ TEST(StatementBudget, EndsFewStepsThatTakeLong)
 
 TEST(StatementBudget, EndsWhatTakesAllMemory)
 {
-    Database const database({noEnd, anHour, 64 * 1024 * 1024});
+    Database const database({noEnd, anHour, 67'108'864});
     auto const sortOf = [](int rows) {
         return "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < " +
                std::to_string(rows) + ") SELECT i, zeroblob(100000) FROM c ORDER BY i % 7";
