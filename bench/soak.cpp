@@ -23,7 +23,7 @@ using namespace kestrova::bench;
 
 namespace {
 
-constexpr qint64 toleratedGrowth = 64 * 1024; // what the heap and Qt's pools may settle by
+constexpr qint64 toleratedGrowth = 65'536; // what the heap and Qt's pools may settle by
 
 /// Counts, and frees, the objects that a level refused: the cache leaves them to nobody.
 class CountingCache : public CDriverCache {

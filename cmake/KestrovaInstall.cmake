@@ -47,7 +47,8 @@ install(FILES
     COMPONENT development)
 
 # Where the prefix is, the .pc file tells from its own place.
-file(RELATIVE_PATH kestrovaPrefixFromPc "/prefix/${kestrovaPkgConfigDir}" "/prefix")
+set(kestrovaPrefixFromPc "/prefix")
+cmake_path(RELATIVE_PATH kestrovaPrefixFromPc BASE_DIRECTORY "/prefix/${kestrovaPkgConfigDir}")
 if(KESTROVA_CORE)
     set(kestrovaCoreLibrary "") # it is not installed from here: the application names its own
 else()

@@ -16,7 +16,7 @@ double ByteReader::real()
 QByteArray ByteReader::bytes(int longest)
 {
     int const length = std::min(choice(longest + 1), static_cast<int>(end - next));
-    QByteArray const taken(reinterpret_cast<char const *>(next), length);
+    QByteArray taken(reinterpret_cast<char const *>(next), length);
     next += length;
     return taken;
 }

@@ -113,12 +113,14 @@ void bindAnything(sqlite3_stmt * statement, int index, ByteReader & reader)
         break;
     case 3: {
         QByteArray const text = reader.bytes();
-        sqlite3_bind_text(statement, index, text.constData(), text.size(), SQLITE_TRANSIENT);
+        sqlite3_bind_text(statement, index, text.constData(), static_cast<int>(text.size()),
+                          SQLITE_TRANSIENT);
         break;
     }
     case 4: {
         QByteArray const blob = reader.bytes();
-        sqlite3_bind_blob(statement, index, blob.constData(), blob.size(), SQLITE_TRANSIENT);
+        sqlite3_bind_blob(statement, index, blob.constData(), static_cast<int>(blob.size()),
+                          SQLITE_TRANSIENT);
         break;
     }
     default:

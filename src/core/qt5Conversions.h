@@ -123,6 +123,7 @@ inline bool isNumeric(QVariant const & value)
     }
 }
 
+// NOLINTBEGIN(bugprone-incorrect-roundings): exactly the steps of Qt 5
 inline qint64 rounded(double number)
 {
     constexpr double limit = 9223372036854775808.0; // 2^63
@@ -135,6 +136,8 @@ inline qint64 rounded(double number)
     auto const below = static_cast<qint64>(number - 1.0);
     return static_cast<qint64>(number - static_cast<double>(below) + 0.5) + below;
 }
+
+// NOLINTEND(bugprone-incorrect-roundings)
 
 /// The number of that text in the spelling that Qt 6 understands; empty if it is none.
 inline QString plainNumber(QString const & text)

@@ -27,6 +27,7 @@ endforeach()
 file(WRITE "${WORK_DIR}/source/CMakeLists.txt" "cmake_minimum_required(VERSION 3.25)
 project(both CXX)
 set(CMAKE_CXX_STANDARD 17)
+set(QT_NO_CREATE_VERSIONLESS_TARGETS ON) # so that Qt itself lets both into one project
 find_package(kestrovaDevicelore REQUIRED)
 find_package(kestrovaDeviceloreQt6 REQUIRED)
 foreach(suffix IN ITEMS \"\" Qt6)
