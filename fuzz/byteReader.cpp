@@ -15,7 +15,8 @@ double ByteReader::real()
 
 QByteArray ByteReader::bytes(int longest)
 {
-    int const length = std::min(choice(longest + 1), static_cast<int>(end - next));
+    int const wanted = choice(longest + 1); // which takes a byte itself
+    int const length = std::min(wanted, static_cast<int>(end - next));
     QByteArray taken(reinterpret_cast<char const *>(next), length);
     next += length;
     return taken;
