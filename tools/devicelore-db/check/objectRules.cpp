@@ -157,11 +157,6 @@ void checkObjects(Inspected const & inspected)
 
 namespace {
 
-struct Link {
-    QString guid;
-    int object; ///< its row
-};
-
 /// A pair of rows of Objects of which a device sees the first only.
 struct Shadow {
     QStringList guids; ///< of the devices
