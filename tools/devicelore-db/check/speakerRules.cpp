@@ -11,8 +11,6 @@ namespace kestrova::authoring {
 
 namespace {
 
-constexpr int noClass = 255;
-
 QString classSubject(int number)
 {
     return QStringLiteral("class %1").arg(number);
