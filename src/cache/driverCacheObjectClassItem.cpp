@@ -14,7 +14,8 @@ CDriverCacheObjectClassItem::CDriverCacheObjectClassItem(unsigned char classId, 
     , description_(description)
 {
     QStringList const parts = ocaClassId.split(QLatin1Char('.'));
-    fieldCount_ = static_cast<unsigned char>(std::min<int>(static_cast<int>(parts.size()), capacity));
+    fieldCount_ =
+        static_cast<unsigned char>(std::min(static_cast<std::size_t>(parts.size()), fields_.size()));
     for (unsigned char i = 0; i < fieldCount_; ++i)
         fields_[i] = qt5::toUShort(parts.at(i));
 }
