@@ -73,7 +73,8 @@ int openDatabase(sqlite3_vfs * vfs, char const * name, sqlite3_file * handle, in
 {
     static sqlite3_io_methods const methods = databaseMethods();
     handle->pMethods = nullptr;
-    if (!(flags & SQLITE_OPEN_READONLY))
+    // Journals and temporary files are never wanted: they would be written, and hold decrypted pages.
+    if (!(flags & SQLITE_OPEN_MAIN_DB) || !(flags & SQLITE_OPEN_READONLY))
         return SQLITE_CANTOPEN;
     try {
         auto file = std::make_unique<ReadOnlyFile>(realVfs(vfs));
@@ -87,13 +88,6 @@ int openDatabase(sqlite3_vfs * vfs, char const * name, sqlite3_file * handle, in
     if (flagsOut)
         *flagsOut = flags;
     return SQLITE_OK;
-}
-
-int openFile(sqlite3_vfs * vfs, char const * name, sqlite3_file * handle, int flags, int * flagsOut)
-{
-    if (flags & SQLITE_OPEN_MAIN_DB)
-        return openDatabase(vfs, name, handle, flags, flagsOut);
-    return realVfs(vfs).xOpen(&realVfs(vfs), name, handle, flags, flagsOut);
 }
 
 /// Hands a call to the same function of the real file system.
@@ -112,8 +106,8 @@ sqlite3_vfs vfsOn(sqlite3_vfs & real)
     vfs.mxPathname = real.mxPathname;
     vfs.zName = vfsName;
     vfs.pAppData = &real;
-    vfs.xOpen = openFile;
-    vfs.xDelete = forward<&sqlite3_vfs::xDelete>;
+    vfs.xOpen = openDatabase;
+    vfs.xDelete = [](sqlite3_vfs *, char const *, int) { return SQLITE_IOERR_DELETE; };
     vfs.xAccess = forward<&sqlite3_vfs::xAccess>;
     vfs.xFullPathname = forward<&sqlite3_vfs::xFullPathname>;
     vfs.xDlOpen = forward<&sqlite3_vfs::xDlOpen>;

@@ -4,11 +4,12 @@
 
 #include <sqlite3.h>
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <vector>
 
 namespace kestrova::test {
 
@@ -38,6 +39,27 @@ TEST(ReadOnlyVfs, OpensDatabasesForReadingOnly)
     EXPECT_EQ(openWithVfs(file, SQLITE_OPEN_READONLY), SQLITE_OK);
     EXPECT_EQ(openWithVfs(file, SQLITE_OPEN_READWRITE), SQLITE_CANTOPEN);
     EXPECT_EQ(openWithVfs(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE), SQLITE_CANTOPEN);
+}
+
+TEST(ReadOnlyVfs, OpensNoTemporaryFilesAndDeletesNothing)
+{
+    QTemporaryDir const folder;
+    QByteArray const path = folder.filePath(QStringLiteral("temporary")).toUtf8();
+    sqlite3_vfs * const vfs = sqlite3_vfs_find(sqlcipher::readOnlyVfs());
+    std::vector<char> memory(static_cast<std::size_t>(vfs->szOsFile));
+    auto * const handle = reinterpret_cast<sqlite3_file *>(memory.data());
+    for (int const kind : {SQLITE_OPEN_TEMP_DB, SQLITE_OPEN_TRANSIENT_DB, SQLITE_OPEN_MAIN_JOURNAL,
+                           SQLITE_OPEN_TEMP_JOURNAL, SQLITE_OPEN_SUBJOURNAL, SQLITE_OPEN_WAL}) {
+        int const flags = kind | SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+        EXPECT_EQ(vfs->xOpen(vfs, path.constData(), handle, flags, nullptr), SQLITE_CANTOPEN) << kind;
+        EXPECT_EQ(handle->pMethods, nullptr);
+    }
+    EXPECT_FALSE(QFile::exists(QString::fromUtf8(path)));
+
+    QFile file(QString::fromUtf8(path));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_EQ(vfs->xDelete(vfs, path.constData(), 0), SQLITE_IOERR_DELETE);
+    EXPECT_TRUE(file.exists());
 }
 
 } // namespace
