@@ -365,6 +365,15 @@ TEST(SpeakerList, ComparesBySortOrder)
     EXPECT_FALSE(List::sortOrderLessThan(&left, &left));
 }
 
+TEST(SpeakerList, WidensTheLowerBoundOnlyWhenItWasSet)
+{
+    List list;
+    list.setMinSpeakerId(7);
+    add(list, 5, 0, 1);
+    EXPECT_EQ(list.minSpeakerId(), 5);
+    EXPECT_EQ(list.maxSpeakerId(), 0) << "an id widens one bound at most";
+}
+
 TEST(SpeakerList, ClearForgetsAll)
 {
     List list;

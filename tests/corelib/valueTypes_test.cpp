@@ -313,6 +313,7 @@ TEST(MemoryException, IsCaughtAsItselfAndAsItsBases)
     EXPECT_THROW(throw CMemoryException(), CException);
     EXPECT_THROW(throw CMemoryException(), std::exception);
     EXPECT_STREQ(CMemoryException().what(), "kestrova::Solvane::CMemoryException");
+    EXPECT_STREQ(CException().what(), "kestrova::Solvane::CException");
 }
 
 TEST(MemoryException, HasAVirtualDestructor)
