@@ -2,6 +2,9 @@
 #include "folderSnapshot.h"
 #include "sampleDatabase.h"
 
+#include "sqlcipher/bytes.h"
+#include "sqlcipher/pageCodec.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSqlDatabase>
@@ -10,6 +13,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <functional>
 #include <random>
 
@@ -100,6 +104,32 @@ INSTANTIATE_TEST_SUITE_P(DamagedFirstPage, RefusedDatabase,
                                            damaged("Version3Iv", sqlcipher::version3, 976),
                                            damaged("Version3Hmac", sqlcipher::version3, 1011)),
                          [](auto const & row) { return row.param.name; });
+
+/// The sample with another byte at \a offset of its header, in a first page that is authentic all the same.
+RefusedFile relabelled(char const * name, sqlcipher::PageFormat const & format, int offset, char byte)
+{
+    return {name, [&format, offset, byte](QString const & path) {
+                makeEncryptedSample(path, format);
+                QByteArray bytes = contentOf(path);
+                sqlcipher::Salt salt;
+                std::copy_n(bytes.constBegin(), salt.size(), salt.begin());
+                sqlcipher::PageCodec codec(format, sqlcipher::databaseKey, salt);
+                QByteArray plain(format.pageSize, '\0');
+                codec.decrypt(1, sqlcipher::bytesOf(bytes), reinterpret_cast<unsigned char *>(plain.data()));
+                plain[offset] = byte;
+                codec.encrypt(1, sqlcipher::bytesOf(plain), reinterpret_cast<unsigned char *>(bytes.data()));
+                writeContent(path, bytes);
+            }};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AuthenticFirstPage, RefusedDatabase,
+    ::testing::Values(relabelled("Version4OfAnotherPageSize", sqlcipher::version4, 16, 0x20),
+                      relabelled("Version4WithoutReserve", sqlcipher::version4, 20, 0),
+                      relabelled("Version4WithoutAHeader", sqlcipher::version4, 21, 0),
+                      relabelled("Version3OfAnotherPageSize", sqlcipher::version3, 16, 0x02),
+                      relabelled("Version3WithTheReserveOfVersion4", sqlcipher::version3, 20, 80)),
+    [](auto const & row) { return row.param.name; });
 
 /// The sample cut to \a size bytes; negative sizes count from the end.
 RefusedFile cut(char const * name, sqlcipher::PageFormat const & format, int size)
