@@ -5,6 +5,7 @@
 #include "hardening/statementBudget.h"
 #include "hardening/statementRules.h"
 #include "sqlcipher/readOnlyVfs.h"
+#include "sqliteDriver.h"
 
 #include <QFileInfo>
 #include <QSqlDatabase>
@@ -84,12 +85,13 @@ bool openReadOnly(QSqlDatabase & connection, QString const & filePath)
 
 bool OpenEncryptedSqliteDatabase(QString const & filePath, QString const & connectionName)
 {
-    {
+    if (hasSqlite()) {
         QSqlDatabase connection = closedConnection(connectionName);
         if (openReadOnly(connection, filePath))
             return true;
     } // removeDatabase warns while anybody holds the connection
     QSqlDatabase::removeDatabase(connectionName);
+    tellWhatIsMissing();
     return false;
 }
 

@@ -2,6 +2,8 @@
 
 #include "sqlcipher/readOnlyFile.h"
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <new>
 
@@ -9,7 +11,13 @@ namespace kestrova::sqlcipher {
 
 namespace {
 
-constexpr char vfsName[] = "kestrova-readonly";
+/// Another one for each library in the process that holds this code, since each has a key of its own.
+char const * vfsName()
+{
+    static QByteArray const name =
+        "kestrova-readonly-" + QByteArray::number(reinterpret_cast<quintptr>(&vfsName), 16);
+    return name.constData();
+}
 
 /// What SQLite hands to the functions below for a main database.
 struct DatabaseHandle : sqlite3_file {
@@ -104,7 +112,7 @@ sqlite3_vfs vfsOn(sqlite3_vfs & real)
     vfs.iVersion = 1;
     vfs.szOsFile = std::max(real.szOsFile, static_cast<int>(sizeof(DatabaseHandle)));
     vfs.mxPathname = real.mxPathname;
-    vfs.zName = vfsName;
+    vfs.zName = vfsName();
     vfs.pAppData = &real;
     vfs.xOpen = openDatabase;
     vfs.xDelete = [](sqlite3_vfs *, char const *, int) { return SQLITE_IOERR_DELETE; };
@@ -130,7 +138,7 @@ char const * readOnlyVfs()
         return nullptr;
     static sqlite3_vfs vfs = vfsOn(*real);
     static int const registered = sqlite3_vfs_register(&vfs, 0);
-    return registered == SQLITE_OK ? vfsName : nullptr;
+    return registered == SQLITE_OK ? vfs.zName : nullptr;
 }
 
 } // namespace kestrova::sqlcipher

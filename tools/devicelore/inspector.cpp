@@ -38,8 +38,9 @@ QString firstUnreadableFile(QDir const & folder)
 Failure openFailure(QDir const & folder)
 {
     QString const file = firstUnreadableFile(folder);
-    return {ExitDatabase,
-            QStringLiteral("cannot open the database '%1'; `devicelore-db info '%1'` tells why").arg(file)};
+    return {ExitDatabase, QStringLiteral("cannot open the database '%1'; unless a message above tells why, "
+                                         "`devicelore-db info '%1'` does")
+                              .arg(file)};
 }
 
 } // namespace

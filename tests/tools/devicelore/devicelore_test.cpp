@@ -134,7 +134,8 @@ TEST(DeviceToolDatabases, ThatCannotBeHadAreNamed)
          QStringLiteral("there are no readable databases (*.db3) in '%1'").arg(empty.dir().path())},
         {"a file that does not open",
          {damaged.dir().path()},
-         QStringLiteral("cannot open the database '%1'; `devicelore-db info '%1'` tells why")
+         QStringLiteral("cannot open the database '%1'; unless a message above tells why, "
+                        "`devicelore-db info '%1'` does")
              .arg(damaged.path(QStringLiteral("b.db3")))},
         {"two of one name",
          {sameName.dir().path(), sameNameToo.dir().path()},
@@ -162,8 +163,8 @@ TEST(DeviceToolDatabases, BesideTheToolThatDoNotOpenAreNamed)
     ProgramResult const result = tool.run("devices");
     EXPECT_EQ(result.exitCode, 4);
     EXPECT_EQ(result.messages,
-              QStringLiteral("devicelore: cannot open the database '%1'; `devicelore-db info '%1'` "
-                             "tells why\n")
+              QStringLiteral("devicelore: cannot open the database '%1'; unless a message above tells why, "
+                             "`devicelore-db info '%1'` does\n")
                   .arg(tool.path(QStringLiteral("bad.db3"))));
 }
 
