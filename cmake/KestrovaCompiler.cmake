@@ -23,6 +23,14 @@ endif()
 file(RELATIVE_PATH source_from_build "${CMAKE_BINARY_DIR}" "${PROJECT_SOURCE_DIR}")
 add_compile_options("-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=" "-fmacro-prefix-map=${source_from_build}=")
 
+# What is handed out holds no path of the machine that built it, and is the same whatever folder it was built in. Of two
+# maps that fit, the last holds: a build folder within the project's keeps its name. A debug build is for here: debuggers
+# find its sources from anywhere.
+if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+    add_compile_options("-fdebug-prefix-map=${PROJECT_BINARY_DIR}=build" "-fdebug-prefix-map=${PROJECT_SOURCE_DIR}=.")
+    set(CMAKE_BUILD_RPATH_USE_ORIGIN ON) # the build ID is made from the paths of the build, too
+endif()
+
 # Nothing that the oldest supported version of the chosen Qt calls deprecated.
 if(KESTROVA_QT EQUAL 5)
     add_compile_definitions(QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
