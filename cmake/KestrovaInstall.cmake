@@ -54,6 +54,11 @@ if(KESTROVA_CORE)
 else()
     set(kestrovaCoreLibrary " -lkestrovaCore${kestrovaSuffix}")
 endif()
+if(KESTROVA_QT EQUAL 5)
+    set(kestrovaPcOptions " -fPIC") # Qt 5 refuses to be compiled without, and its own .pc files do not ask for it
+else()
+    set(kestrovaPcOptions "")
+endif()
 configure_file(
     "${CMAKE_CURRENT_LIST_DIR}/kestrovaDevicelore.pc.in"
     "${PROJECT_BINARY_DIR}/${kestrovaPackage}.pc"
