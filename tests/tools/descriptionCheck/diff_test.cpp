@@ -63,7 +63,7 @@ TEST(DescriptionDiff, TellsHowAnObjectChangesAndWhetherThatBreaks)
         {"Format", "'%+6.2d dBu'", R"(breaking    object Trim, format: "%+6.2d dB" -> "%+6.2d dBu")"},
         {"Format", "'%+6.2u dB'", R"(breaking    object Trim, format: "%+6.2d dB" -> "%+6.2u dB")"},
         {"Format", "'%+6.2ld dB'", R"(breaking    object Trim, format: "%+6.2d dB" -> "%+6.2ld dB")"},
-        {"Flags", "35", R"(compatible  object Trim, flags: "3" -> "35")"},
+        {"Flags", "19", R"(compatible  object Trim, flags: "3" -> "19")"},
         {"Flags", "1", R"(breaking    object Trim, flags: "3" -> "1")"},
         {"Flags", "1027", R"(breaking    object Trim, flags: "3" -> "1027")"},
         {"Access", "1", R"(compatible  object Trim, access: "11" -> "1")"},
@@ -109,6 +109,10 @@ TEST(DescriptionDiff, TellsWhatElseAnApplicationSees)
         {"UPDATE Objects SET Name = 'Mains' WHERE id = 1",
          "compatible  object Mains: added  (C7000012 and 1 more)\n"
          "breaking    object Power: removed  (C7000012 and 1 more)\n1 breaking, 1 compatible\n"},
+        // The flag for single steps changes the step that applications get.
+        {"UPDATE Objects SET Flags = 35 WHERE id = 109",
+         "compatible  object Trim, flags: \"3\" -> \"35\"  (C7000012 and 1 more)\n"
+         "compatible  object Trim, step: \"25\" -> \"1\"  (C7000012 and 1 more)\n0 breaking, 2 compatible\n"},
         {"UPDATE TextsObjectValues SET TextShort_en_US = 'Turned' WHERE TextOffset = 30 AND Value = 1",
          "compatible  object Polarity, text en_US 1: \"Inverted\" -> \"Turned\"  (C7000012 and 1 more)\n"
          "0 breaking, 1 compatible\n"},

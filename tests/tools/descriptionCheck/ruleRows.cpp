@@ -10,6 +10,30 @@
     "SpeakerVersion TEXT, BlobData BLOB, BlobDataMD5 TEXT); CREATE INDEX DataByGuid ON SpeakerData (GUID, "  \
     "SpeakerId);"
 
+/// Objects with the same rows and indexes, but without a key.
+#define OBJECTS_WITHOUT_KEY                                                                                  \
+    "CREATE TABLE o AS SELECT * FROM Objects; DROP TABLE Objects; ALTER TABLE o RENAME TO Objects; "         \
+    "CREATE INDEX ByName ON Objects (Name); CREATE INDEX ByNumber ON Objects (ObjectNumber);"
+#define FILTER_OBJECT                                                                                        \
+    "INSERT INTO Objects (id, Name, BoxNumber, ObjectNumber, Format, Min, Max, Step, Size, DefaultValue, "   \
+    "TextOffset) VALUES (211, 'Config_Filter1', 2, 11, '%1U', 0, 1, 1, 1, '0', 30); "                        \
+    "INSERT INTO guidsandobjects SELECT 211, GUID FROM Guids;"
+#define CABLEFIT_OBJECT                                                                                      \
+    "INSERT INTO Objects (id, Name, BoxNumber, ObjectNumber, Format, Min, Max, Step, Size, DefaultValue, "   \
+    "TextOffset) VALUES (212, 'Config_CablefitSpeakerCount', 2, 12, '%1U', 0, 1, 1, 1, '0', 30); "           \
+    "INSERT INTO guidsandobjects SELECT 212, GUID FROM Guids;"
+/// A filter of another database for a device of the good one, with the texts 80.
+#define FOREIGN_FILTER                                                                                       \
+    "CREATE TABLE Filters (Id, Number, Type, Min, Max, DisplayNameShort, TextOffset, StateTexts);"           \
+    "CREATE TABLE GuidsSpeakersFilters (GUID, SpeakerId, FilterId, Access);"                                 \
+    "CREATE INDEX f ON Filters (Id); CREATE INDEX g ON GuidsSpeakersFilters (GUID);"                         \
+    "INSERT INTO Filters VALUES (21, 2, 1, 0, 1, 'Far field', 80, '');"                                      \
+    "INSERT INTO GuidsSpeakersFilters VALUES ('C7000012', 71, 21, 1);"
+#define TEXTS_TABLE                                                                                          \
+    "CREATE TABLE TextsObjectValues (TextOffset, Value, TextShort_en_US, TextShort_de_DE);"                  \
+    "CREATE INDEX t ON TextsObjectValues (TextOffset);"
+#define TEXTS_80 "INSERT INTO TextsObjectValues VALUES (80, 0, 'Near', 'Nah'), (80, 1, 'Far', 'Fern')"
+
 namespace kestrova::test {
 
 std::vector<BadRow> const & badRows()
@@ -189,6 +213,15 @@ std::vector<BadRow> const & badRows()
          "a.db3, Objects, Size, DeviceName (id 2): Size is \"two\"; 0 to 65535 fit [not-a-number]"},
         {"null-value", "UPDATE Objects SET WaitTime = NULL WHERE id = 2", "", "",
          "a.db3, Objects, WaitTime, DeviceName (id 2): WaitTime is NULL [null-value]"},
+        {"null-value",
+         OBJECTS_WITHOUT_KEY
+         "UPDATE Objects SET id = NULL WHERE id < 3; DELETE FROM guidsandobjects WHERE objectid < 3",
+         "", "",
+         "a.db3, Objects, id, Power (id ): id is NULL [null-value]\n"
+         "a.db3, Objects, id, Power (id ): guidsandobjects does not have Power (id ) [object-unlinked]\n"
+         "a.db3, Objects, id, DeviceName (id ): id is NULL [null-value]\n"
+         "a.db3, Objects, id, DeviceName (id ): guidsandobjects does not have DeviceName (id ) "
+         "[object-unlinked]"},
         {"number-cut", "UPDATE Objects SET ChannelCount = 256 WHERE id = 2", "", "",
          "a.db3, Objects, ChannelCount, DeviceName (id 2): ChannelCount is 256; 0 to 255 fit [number-cut]"},
         {"number-fraction", "UPDATE Speakers SET SortOrder = 10.5 WHERE SpeakerId = 71", "", "",
@@ -199,6 +232,18 @@ std::vector<BadRow> const & badRows()
          "a.db3, Objects, ObjectNumber, Power (id 1): the number is 256; 0 to 255 fit [object-address]"},
         {"object-column-missing", "ALTER TABLE Objects DROP COLUMN WaitStates", "", "",
          "a.db3, Objects, WaitStates, : there is no column WaitStates [object-column-missing]"},
+        {"object-id-twice",
+         OBJECTS_WITHOUT_KEY
+         "UPDATE Objects SET id = 102 WHERE id = 109; DELETE FROM guidsandobjects WHERE objectid = 109",
+         "", "", "a.db3, Objects, id, Trim (id 102): Polarity (id 102) has the id too [object-id-twice]"},
+        {"object-id-twice",
+         OBJECTS_WITHOUT_KEY
+         "UPDATE Objects SET id = 102, Name = 'Polarity', BoxNumber = 3 WHERE id = 109; DELETE FROM "
+         "guidsandobjects WHERE objectid = 109",
+         "", "",
+         "a.db3, Objects, Name, Polarity (id 102): Polarity (id 102) has it too, for C7000012 and 1 more "
+         "[object-name-twice]\n"
+         "a.db3, Objects, id, Polarity (id 102): Polarity (id 102) has the id too [object-id-twice]"},
         {"object-name-twice", "UPDATE Objects SET Name = 'Gain' WHERE id = 109", "", "",
          "a.db3, DevicePropertyFilter, Expression, Channel: it holds \"Gain\" twice [group-twice]\n"
          "a.db3, Objects, Name, Gain (id 109): Gain (id 101) has it too, for C7000012 and 1 more "
@@ -296,6 +341,19 @@ std::vector<BadRow> const & badRows()
          "'C7000212' WHERE guid = 'C7000012'; UPDATE GuidsSpeakersFilters SET GUID = 'C7000212' WHERE GUID = "
          "'C7000012'",
          "", "", "a.db3, Guids, GUID, type 12: there is no C7000012 [version-0-missing]"},
+    };
+    return all;
+}
+
+std::vector<GoodRow> const & goodRows()
+{
+    static std::vector<GoodRow> const all{
+        {"object-id-twice", OBJECTS_WITHOUT_KEY, ""},
+        {"object-id-twice",
+         OBJECTS_WITHOUT_KEY
+         "UPDATE Objects SET Name = 'Trim' WHERE id = 1; DELETE FROM guidsandobjects "
+         "WHERE objectid = 1 AND guid = 'C7000112' OR objectid = 109 AND guid = 'C7000012'",
+         ""},
     };
     return all;
 }

@@ -15,4 +15,13 @@ struct BadRow {
 
 std::vector<BadRow> const & badRows();
 
+/// Something that a rule must not take for broken.
+struct GoodRow {
+    char const * rule;
+    char const * change;
+    char const * nextDatabase;
+};
+
+std::vector<GoodRow> const & goodRows();
+
 } // namespace kestrova::test

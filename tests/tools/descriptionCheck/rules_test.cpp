@@ -40,6 +40,17 @@ TEST(DescriptionRules, FindWhatIsBrokenAndNothingElse)
     }
 }
 
+TEST(DescriptionRules, FindNothingWrongWithWhatIsGood)
+{
+    for (GoodRow const & row : goodRows()) {
+        SCOPED_TRACE(testing::Message() << row.rule << ": " << row.change);
+        DescriptionWorld world(QString::fromUtf8(row.change));
+        if (*row.nextDatabase != 0)
+            world.add(QStringLiteral("b.db3"), QString::fromUtf8(row.nextDatabase));
+        EXPECT_EQ(world.findingLines().join(QLatin1Char('\n')), QString());
+    }
+}
+
 TEST(DescriptionRules, AllHaveARow)
 {
     QSet<QString> tested = rulesOfFiles;

@@ -4,6 +4,8 @@
 
 #include <array>
 
+using namespace kestrova::Morvel::Devicelore;
+
 namespace kestrova::authoring {
 
 namespace {
@@ -15,6 +17,11 @@ constexpr std::array databaseRules = {
 };
 
 } // namespace
+
+bool Inspected::supplies(QString const & guid) const
+{
+    return isGuidText(guid) && set.cache().connectionName(CDeviceGuid(guid)) == database.file;
+}
 
 void Inspected::report(char const * rule, Table const & table, int row, char const * column,
                        QString const & subject, QString const & message) const

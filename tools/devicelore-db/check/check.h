@@ -41,6 +41,9 @@ struct Inspected {
     SeenBefore & seen;
     Findings & findings;
 
+    /// Whether the device that is asked for by this text takes its objects and texts from this database.
+    bool supplies(QString const & guid) const;
+
     /// A finding in a row. An empty \a column means the row as a whole.
     void report(char const * rule, Table const & table, int row, char const * column, QString const & subject,
                 QString const & message) const;

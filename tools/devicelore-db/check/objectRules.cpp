@@ -1,15 +1,13 @@
 #include "check/check.h"
 #include "check/objectFormat.h"
+#include "check/objectRows.h"
 
 #include "core/qt5Conversions.h"
 #include "core/roundOnStep.h"
-#include "records/objectDef.h"
 
 #include <QSet>
-#include <QSqlQuery>
-#include <QSqlRecord>
 
-#include <cmath>
+#include <algorithm>
 
 using namespace kestrova::Morvel::Devicelore;
 
@@ -19,7 +17,6 @@ namespace {
 
 constexpr int highestBox = 31;
 constexpr int highestObject = 255;
-constexpr int movesInSingleSteps = 0x20; // a flag
 
 QString textOf(double number)
 {
@@ -111,33 +108,12 @@ void checkUnchecked(ObjectRow const & row)
         row.report("values-unchecked", "Format", QStringLiteral("the object is hexadecimal"));
 }
 
-/// The objects as the library's own reader makes them of their rows.
-QVector<CObjectDef> readObjects(Inspected const & inspected, Table const & table)
-{
-    QVector<CObjectDef> objects;
-    QSqlQuery query(inspected.database.connection);
-    query.setForwardOnly(true);
-    if (table.columns.isEmpty() || !query.exec(QStringLiteral("SELECT * FROM Objects")))
-        return objects;
-    auto const everything = QFlags<ObjectDefMask>(QFlag(~0U));
-    while (query.next()) {
-        CObjectDef object;
-        object.setMask(everything);
-        inspected.set.cache().takeQuery(query, everything, table.columns, object);
-        object.determineObjectType();
-        if ((object.flags() & movesInSingleSteps) != 0 && object.step() > 1.0)
-            object.setStep(1.0); // as the cache does
-        objects.append(object);
-    }
-    return objects;
-}
-
 } // namespace
 
 void checkObjects(Inspected const & inspected)
 {
     Table const & table = inspected.database.table("Objects");
-    QVector<CObjectDef> const objects = readObjects(inspected, table);
+    QVector<CObjectDef> const objects = readObjects(inspected.set.cache(), inspected.database);
     for (int row = 0; row < objects.size() && row < table.rowCount(); ++row) {
         ObjectRow const object{inspected, table, row, objects.at(row)};
         checkAddress(object);
@@ -157,11 +133,6 @@ void checkObjects(Inspected const & inspected)
 
 namespace {
 
-/// A pair of rows of Objects of which a device sees the first only.
-struct Shadow {
-    QStringList guids; ///< of the devices
-};
-
 QString devicesText(QStringList const & guids)
 {
     if (guids.size() == 1)
@@ -174,7 +145,8 @@ void reportShadows(Inspected const & inspected, Table const & objects,
                    QHash<QString, QVector<int>> const & objectsOfDevice, char const * rule,
                    char const * column, QString (*keyOf)(Table const & objects, int row))
 {
-    QMap<QPair<int, int>, Shadow> shadows; // by the rows of the hidden object and of the one before it
+    // The GUIDs of the devices, by the rows of the hidden object and of the one before it.
+    QMap<QPair<int, int>, QStringList> shadows;
     QStringList guids = objectsOfDevice.keys();
     guids.sort();
     for (QString const & guid : guids) {
@@ -185,13 +157,13 @@ void reportShadows(Inspected const & inspected, Table const & objects,
             if (first == firstRow.constEnd())
                 firstRow.insert(key, row);
             else if (*first != row)
-                shadows[{qMax(row, *first), qMin(row, *first)}].guids.append(guid);
+                shadows[{qMax(row, *first), qMin(row, *first)}].append(guid);
         }
     }
     for (auto shadow = shadows.constBegin(); shadow != shadows.constEnd(); ++shadow)
         inspected.report(rule, objects, shadow.key().first, column, subjectOf(objects, shadow.key().first),
                          QStringLiteral("%1 has it too, for %2")
-                             .arg(subjectOf(objects, shadow.key().second), devicesText(shadow->guids)));
+                             .arg(subjectOf(objects, shadow.key().second), devicesText(*shadow)));
 }
 
 QString nameOf(Table const & objects, int row)
@@ -204,12 +176,15 @@ QString addressOf(Table const & objects, int row)
     return QStringLiteral("%1/%2").arg(objects.text(row, "BoxNumber"), objects.text(row, "ObjectNumber"));
 }
 
-QHash<qint64, int> rowsById(Table const & objects)
+/// A device that is linked to an id has all objects of that id.
+void reportSharedIds(Inspected const & inspected, Table const & objects,
+                     QHash<qint64, QVector<int>> const & rowsOfId)
 {
-    QHash<qint64, int> rows;
-    for (int row = 0; row < objects.rowCount(); ++row)
-        rows.insert(qt5::toInt64(objects.value(row, "id")), row);
-    return rows;
+    for (QVector<int> const & rows : rowsOfId) {
+        for (int i = 1; i < rows.size(); ++i)
+            inspected.report("object-id-twice", objects, rows.at(i), "id", subjectOf(objects, rows.at(i)),
+                             QStringLiteral("%1 has the id too").arg(subjectOf(objects, rows.first())));
+    }
 }
 
 } // namespace
@@ -218,38 +193,41 @@ void checkLinks(Inspected const & inspected)
 {
     Table const & objects = inspected.database.table("Objects");
     Table const & links = inspected.database.table("guidsandobjects");
-    QHash<qint64, int> const rowOfId = rowsById(objects);
+    QHash<qint64, QVector<int>> const rowsOfId = rowsById(objects);
+    reportSharedIds(inspected, objects, rowsOfId);
     QHash<QString, QVector<int>> objectsOfDevice;
-    QSet<QPair<QString, int>> seen;
+    QSet<QPair<QString, qint64>> seen;
     QSet<int> linkedObjects;
     QSet<QString> reportedGuids;
     for (int row = 0; row < links.rowCount(); ++row) {
         QString const guid = links.text(row, "guid");
         qint64 const id = qt5::toInt64(links.value(row, "objectid"));
         QString const subject = QStringLiteral("%1 - %2").arg(guid, QString::number(id));
-        QString const owner = inspected.set.cache().connectionName(CDeviceGuid(guid));
-        bool const isAsked = isGuidText(guid) && owner == inspected.database.file;
-        if (!isAsked && !reportedGuids.contains(guid)) {
+        if (!inspected.supplies(guid) && !reportedGuids.contains(guid)) {
             reportedGuids.insert(guid); // one finding a GUID, not one a link
+            QString const owner = inspected.set.cache().connectionName(CDeviceGuid(guid));
             inspected.report("link-unknown-device", links, row, "guid", guid,
                              owner.isEmpty() || !isGuidText(guid)
                                  ? QStringLiteral("no device is asked for as \"%1\"").arg(guid)
                                  : QStringLiteral("%1 is described by %2").arg(guid, owner));
         }
-        auto const object = rowOfId.constFind(id);
-        if (object == rowOfId.constEnd()) {
+        auto const rows = rowsOfId.constFind(id);
+        if (rows == rowsOfId.constEnd()) {
             inspected.report("link-missing-object", links, row, "objectid", subject,
                              QStringLiteral("there is no object with the id %1").arg(id));
             continue;
         }
-        linkedObjects.insert(*object);
-        if (seen.contains({guid, *object})) {
-            inspected.report("link-twice", links, row, "objectid", subject,
-                             QStringLiteral("%1 has %2 already").arg(guid, subjectOf(objects, *object)));
+        if (seen.contains({guid, id})) {
+            inspected.report(
+                "link-twice", links, row, "objectid", subject,
+                QStringLiteral("%1 has %2 already").arg(guid, subjectOf(objects, rows->first())));
             continue;
         }
-        seen.insert({guid, *object});
-        objectsOfDevice[guid].append(*object);
+        seen.insert({guid, id});
+        for (int const object : *rows) {
+            linkedObjects.insert(object);
+            objectsOfDevice[guid].append(object);
+        }
     }
     for (int row = 0; row < objects.rowCount(); ++row) {
         if (!linkedObjects.contains(row))

@@ -158,6 +158,8 @@ std::vector<Rule> const & rules()
          "give the object a box up to 31 and a number up to 255"},
         {"object-column-missing", Warning, "the table Objects lacks a column",
          "the member is 0 or empty for every object", "add the column"},
+        {"object-id-twice", Warning, "two objects have one id",
+         "a device that is linked to the id has both objects", "give each object an id of its own"},
         {"object-name-twice", Error, "a device has two objects of one name",
          "by name only the first row is ever found", "rename one, or link only one of them"},
         {"object-number-twice", Error, "a device has two objects of one number",

@@ -1,12 +1,12 @@
 #include "diff/view.h"
 
+#include "check/objectRows.h"
+
 #include "cache/driverCacheFilterItem.h"
 #include "core/qt5Conversions.h"
 #include "records/driverPropertyTarget.h"
-#include "records/objectDef.h"
 
 #include <QCryptographicHash>
-#include <QSqlQuery>
 
 #include <algorithm>
 
@@ -66,26 +66,18 @@ struct NamedObject {
     Members members;
 };
 
-/// The objects of a database by their ids, with their texts. Devices that share a row share its members.
-QHash<qint64, NamedObject> readObjects(DescriptionSet & set, Database const & database)
+/// The objects of a database in the order of their rows, with their texts. Devices that share a row share its
+/// members.
+QVector<NamedObject> readNamedObjects(DescriptionSet & set, Database const & database)
 {
-    QHash<qint64, NamedObject> objects;
-    Table const & table = database.table("Objects");
+    QVector<NamedObject> objects;
     QHash<qint64, Members> const texts = readTexts(database.table("TextsObjectValues"));
-    auto const everything = QFlags<ObjectDefMask>(QFlag(~0U));
-    QSqlQuery query(database.connection);
-    query.setForwardOnly(true);
-    int const id = table.column(QStringLiteral("id"));
-    if (id < 0 || !query.exec(QStringLiteral("SELECT * FROM Objects")))
-        return objects;
-    while (query.next()) {
-        CObjectDef object;
-        set.cache().takeQuery(query, everything, table.columns, object);
+    for (CObjectDef const & object : readObjects(set.cache(), database)) {
         Members members = membersOf(object);
         Members const group = texts.value(object.textOffset());
         for (auto text = group.constBegin(); text != group.constEnd(); ++text)
             members.insert(text.key(), text.value());
-        objects.insert(qt5::toInt64(query.value(id)), {object.name(), members});
+        objects.append({object.name(), members});
     }
     return objects;
 }
@@ -118,17 +110,21 @@ void viewDevices(DescriptionSet & set, Database const & database, SetView & view
 
 void viewObjects(DescriptionSet & set, Database const & database, SetView & view)
 {
-    QHash<qint64, NamedObject> const objects = readObjects(set, database);
+    QVector<NamedObject> const objects = readNamedObjects(set, database);
+    QHash<qint64, QVector<int>> const rowsOfId = rowsById(database.table("Objects"));
     Table const & links = database.table("guidsandobjects");
     for (int row = 0; row < links.rowCount(); ++row) {
         QString const guid = links.text(row, "guid");
-        auto const object = objects.constFind(qt5::toInt64(links.value(row, "objectid")));
         auto const device = view.devices.find(guid);
-        if (object == objects.constEnd() || device == view.devices.end() || !isOwner(set, database, guid))
+        if (device == view.devices.end() || !isOwner(set, database, guid))
             continue;
-        QString const name = QStringLiteral("object ") + object->name;
-        if (!device->contains(name)) // the first row of a name is the one that is found
-            device->insert(name, object->members);
+        for (int const object : rowsOfId.value(qt5::toInt64(links.value(row, "objectid")))) {
+            if (object >= objects.size())
+                break; // the table was read twice, and a damaged one may end earlier the second time
+            QString const name = QStringLiteral("object ") + objects.at(object).name;
+            if (!device->contains(name)) // the first row of a name is the one that is found
+                device->insert(name, objects.at(object).members);
+        }
     }
 }
 
