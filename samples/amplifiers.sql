@@ -273,7 +273,7 @@ INSERT INTO Objects (id, Name, BoxNumber, ObjectNumber, Format, Min, Max, Step, 
     (604, 'Service_ErrorBits',   6,  4, '%32I32b',       0,       2147483647,    1, 4, 0x01, 11, '0',       0, 'Error bits'),
     (605, 'Service_ErrorWord',   6,  5, '%08lX',         0,       2147483647,    1, 4, 0x01, 11, '0',       0, 'Error word'),
     -- On purpose: one byte without sign, but texts are read with one. Above 127 a value that goes to the
-    -- user and back returns negative.
+    -- user and back returns negative, though with the same bits.
     (606, 'Service_LoadIndex',   6,  6, '%3U',           0,              200,    1, 1, 0x03, 11, '0',       0, 'Load index'),
     -- On purpose: eight bytes. Conversions hand over four, so these two are never converted.
     (607, 'Service_Energy',      6,  7, '%16I64u Wh',    0, 9007199254740991,    1, 8, 0x01, 11, '0',       0, 'Energy used'),

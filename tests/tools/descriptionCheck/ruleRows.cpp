@@ -84,6 +84,10 @@ std::vector<BadRow> const & badRows()
         {"default-out-of-range", "UPDATE Objects SET DefaultValue = '1225' WHERE id = 109", "", "",
          "a.db3, Objects, DefaultValue, Trim (id 109): 1225 is not between -1200 and 1200 "
          "[default-out-of-range]"},
+        {"default-out-of-range",
+         "UPDATE Objects SET DefaultValue = 'Rack 1, lower half, on the right' WHERE id = 2", "", "",
+         "a.db3, Objects, DefaultValue, DeviceName (id 2): it has 32 characters, and Size leaves room for 31 "
+         "[default-out-of-range]"},
         {"default-speaker", "DELETE FROM GuidsSpeakersFilters WHERE GUID = 'C7000112' AND SpeakerId = 68", "",
          "",
          "a.db3, Guids, GUID, C7000112: Hesko takes speaker 68 by default, first on channel 2 in output mode "
@@ -139,6 +143,17 @@ std::vector<BadRow> const & badRows()
          "[format-not-latin1]"},
         {"format-size", "UPDATE Objects SET Size = 4 WHERE id = 109", "", "",
          "a.db3, Objects, Format, Trim (id 109): \"%+6.2d dB\" has the size 2, and Size is 4 [format-size]"},
+        {"format-size", "UPDATE Objects SET Format = '%s', Size = 15 WHERE id = 2", "", "",
+         "a.db3, Objects, Format, DeviceName (id 2): \"%s\" takes 15 characters at least, and Size leaves "
+         "room for 14 [format-size]"},
+        {"format-size", "UPDATE Objects SET Format = '%1I64s', Size = 8 WHERE id = 2", "", "",
+         "a.db3, Objects, Format, DeviceName (id 2): \"%1I64s\" takes 8 characters at least, and Size leaves "
+         "room for 7 [format-size]"},
+        {"format-size", "UPDATE Objects SET Size = 0, DefaultValue = '' WHERE id = 2", "", "",
+         "a.db3, Objects, Size, DeviceName (id 2): a text takes one byte at least [format-size]"},
+        {"format-size", "UPDATE Objects SET Size = 257 WHERE id = 2", "", "",
+         "a.db3, Objects, Size, DeviceName (id 2): Size leaves room for 256 characters, and 255 are "
+         "converted [format-size]"},
         {"format-step", "UPDATE Objects SET Step = 0.25 WHERE id = 101", "", "",
          "a.db3, Objects, Format, Gain (id 101): \"%5.1f dB\" has the precision 1, and the step is 0.25 "
          "[format-step]"},
@@ -210,6 +225,9 @@ std::vector<BadRow> const & badRows()
         {"name-case", "ALTER TABLE Filters RENAME COLUMN Number TO number", "", "",
          "a.db3, Filters, Number, : the column Number is spelled \"number\" here [name-case]"},
         {"not-a-number", "UPDATE Objects SET Size = 'two' WHERE id = 2", "", "",
+         "a.db3, Objects, DefaultValue, DeviceName (id 2): it has 4 characters, and Size leaves room for 0 "
+         "[default-out-of-range]\n"
+         "a.db3, Objects, Size, DeviceName (id 2): a text takes one byte at least [format-size]\n"
          "a.db3, Objects, Size, DeviceName (id 2): Size is \"two\"; 0 to 65535 fit [not-a-number]"},
         {"null-value", "UPDATE Objects SET WaitTime = NULL WHERE id = 2", "", "",
          "a.db3, Objects, WaitTime, DeviceName (id 2): WaitTime is NULL [null-value]"},
@@ -268,11 +286,25 @@ std::vector<BadRow> const & badRows()
         {"range-size", "UPDATE Objects SET Max = 40000 WHERE id = 109", "", "",
          "a.db3, Objects, Max, Trim (id 109): the range is -1200 to 40000, and \"%+6.2d dB\" holds -32768 to "
          "32767 [range-size]"},
+        {"range-size", "UPDATE Objects SET Max = 1e300 WHERE id = 101", "", "",
+         "a.db3, Objects, Max, Gain (id 101): the range is -57.5 to 1e+300, and \"%5.1f dB\" holds "
+         "-3.40282346639e+38 to 3.40282346639e+38 [range-size]"},
+        {"range-size", "UPDATE Objects SET Format = '%I64u', Size = 8, Min = -1 WHERE id = 1", "", "",
+         "a.db3, Objects, Format, Power (id 1): \"%I64u\" has the conversion 'u' and the size 8 "
+         "[values-unconverted]\n"
+         "a.db3, Objects, Max, Power (id 1): the range is -1 to 1, and \"%I64u\" holds 0 to "
+         "1.84467440737e+19 "
+         "[range-size]"},
         {"reserved-bits", "INSERT INTO Guids VALUES ('C7010112', 'Hesko', '1.11', 1, 1)", "", "",
          "a.db3, Guids, GUID, C7010112: guidsandobjects has no row for C7010112 [device-without-objects]\n"
          "a.db3, Guids, GUID, C7010112: C7000112 has version 1 too [reserved-bits]\n"
          "a.db3, Guids, GUID, type 12: there is no C7010012 [version-0-missing]"},
-        {"round-trip", "UPDATE Objects SET Format = '%3U', Max = 200, Size = 1 WHERE id = 202", "", "",
+        {"round-trip", "UPDATE Objects SET Format = '%+8.5d dB' WHERE id = 109", "", "",
+         "a.db3, Objects, Format, Trim (id 109): the device's -1191 is shown as -0.01191 and comes back as "
+         "another [round-trip]"},
+        {"round-trip", "UPDATE Objects SET Format = '%3U', Max = 200, Size = 4 WHERE id = 202", "", "",
+         "a.db3, Objects, Format, Config_SpeakerId (id 202): \"%3U\" has the size 1, and Size is 4 "
+         "[format-size]\n"
          "a.db3, Objects, Format, Config_SpeakerId (id 202): the device's 128 is shown as 128 and comes back "
          "as another [round-trip]"},
         {"same-low-byte", "",
@@ -348,12 +380,22 @@ std::vector<BadRow> const & badRows()
 std::vector<GoodRow> const & goodRows()
 {
     static std::vector<GoodRow> const all{
+        {"default-out-of-range",
+         "UPDATE Objects SET DefaultValue = 'Rack 1, lower half, on the left' WHERE id = 2", ""},
+        {"default-out-of-range",
+         "UPDATE Objects SET DefaultValue = 'longer than sixteen', Size = 16, Flags = 1 WHERE id = 2", ""},
+        {"format-size", "UPDATE Objects SET Format = '%s', Size = 16 WHERE id = 2", ""},
+        {"format-size", "UPDATE Objects SET Size = 256 WHERE id = 2", ""},
         {"object-id-twice", OBJECTS_WITHOUT_KEY, ""},
         {"object-id-twice",
          OBJECTS_WITHOUT_KEY
          "UPDATE Objects SET Name = 'Trim' WHERE id = 1; DELETE FROM guidsandobjects "
          "WHERE objectid = 1 AND guid = 'C7000112' OR objectid = 109 AND guid = 'C7000012'",
          ""},
+        {"range-size", "UPDATE Objects SET Max = 3e38, Format = '%41.1f dB' WHERE id = 101", ""},
+        {"round-trip", "UPDATE Objects SET Format = '%3U', Max = 200, Size = 1 WHERE id = 202", ""},
+        {"round-trip", "UPDATE Objects SET Format = '%5u', Max = 65535 WHERE id = 202", ""},
+        {"round-trip", "UPDATE Objects SET Format = '%I32u', Max = 4294967295, Size = 4 WHERE id = 202", ""},
     };
     return all;
 }

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
 
 using namespace kestrova::Morvel::Devicelore;
 
@@ -16,8 +17,9 @@ namespace kestrova::authoring {
 namespace {
 
 constexpr int convertedBytes = 4; // conversions of the facade hand over an int
-constexpr int allCodesOf = 512;   // so small a range is tried whole
-constexpr int triedCodes = 256;   // of a larger one, spread evenly
+constexpr int convertedCharacters = 255;
+constexpr int allCodesOf = 512; // so small a range is tried whole
+constexpr int triedCodes = 256; // of a larger one, spread evenly
 
 QString textOf(double number)
 {
@@ -66,7 +68,7 @@ void checkSize(Format const & format, QVector<FormatFault> & faults)
     int expected = format.spec.size;
     if (format.spec.conversion == 'H')
         expected = format.spec.width; // the width of a dump is its number of bytes
-    else if (format.spec.conversion == 's' || format.spec.conversion == 'T')
+    else if (format.spec.conversion == 'T')
         return;
     if (expected != format.object.size())
         faults.append(
@@ -75,20 +77,51 @@ void checkSize(Format const & format, QVector<FormatFault> & faults)
                  .arg(format.text, QString::number(expected), QString::number(format.object.size()))});
 }
 
+void checkTextSize(Format const & format, QVector<FormatFault> & faults)
+{
+    int const least = std::max(format.spec.width, format.spec.size); // less is filled up, or refused
+    int const room = format.object.size() - 1;                       // the terminator takes one byte
+    if (room < 0)
+        faults.append({"format-size", "Size", QStringLiteral("a text takes one byte at least")});
+    else if (least > room)
+        faults.append({"format-size", "Format",
+                       QStringLiteral("\"%1\" takes %2 characters at least, and Size leaves room for %3")
+                           .arg(format.text, QString::number(least), QString::number(room))});
+    else if (room > convertedCharacters)
+        faults.append({"format-size", "Size",
+                       QStringLiteral("Size leaves room for %1 characters, and %2 are converted")
+                           .arg(room)
+                           .arg(convertedCharacters)});
+}
+
+struct Bounds {
+    double lowest;
+    double highest;
+};
+
+/// What the bytes of a number hold.
+Bounds boundsOf(Format const & format)
+{
+    if (format.isFloat()) {
+        bool const isDouble = format.spec.size > static_cast<int>(sizeof(float));
+        double const highest =
+            isDouble ? std::numeric_limits<double>::max() : double(std::numeric_limits<float>::max());
+        return {-highest, highest};
+    }
+    double const values = std::ldexp(1.0, format.spec.size * 8);
+    return format.isSigned() ? Bounds{-values / 2, values / 2 - 1} : Bounds{0, values - 1};
+}
+
 /// Whether the range fits the bytes; if not, there is no point in trying its values.
 bool checkRangeSize(Format const & format, QVector<FormatFault> & faults)
 {
-    if (format.isFloat())
-        return true;
-    double const values = std::ldexp(1.0, format.spec.size * 8);
-    double const lowest = format.isSigned() ? -values / 2 : 0;
-    double const highest = (format.isSigned() ? values / 2 : values) - 1;
-    if (format.object.minValue() >= lowest && format.object.maxValue() <= highest)
+    Bounds const bounds = boundsOf(format);
+    if (format.object.minValue() >= bounds.lowest && format.object.maxValue() <= bounds.highest)
         return true;
     faults.append({"range-size", "Max",
                    QStringLiteral("the range is %1 to %2, and \"%3\" holds %4 to %5")
                        .arg(textOf(format.object.minValue()), textOf(format.object.maxValue()), format.text,
-                            textOf(lowest), textOf(highest))});
+                            textOf(bounds.lowest), textOf(bounds.highest))});
     return false;
 }
 
@@ -142,6 +175,14 @@ QVector<double> triedValues(Format const & format)
     return values;
 }
 
+/// What the device gets of the int: its lowest bytes. So it does not matter that an unsigned number whose top
+/// bit is set comes back as a negative one.
+quint64 bytesForDevice(int raw, CObjectDef const & object)
+{
+    int const bits = 8 * std::min<int>(object.size(), convertedBytes);
+    return static_cast<quint32>(raw) & ((quint64(1) << bits) - 1);
+}
+
 bool comesBack(double number, Format const & format, CDevicelore & library, QString & shown)
 {
     QVariant const raw(rawOf(number, format));
@@ -150,7 +191,7 @@ bool comesBack(double number, Format const & format, CDevicelore & library, QStr
     shown = qt5::toText(value);
     library.realToDevice(format.object, value);
     int const again = value.userType() == QMetaType::Float ? rawOf(value.toDouble(), format) : value.toInt();
-    return again == raw.toInt();
+    return bytesForDevice(again, format.object) == bytesForDevice(raw.toInt(), format.object);
 }
 
 void checkRoundTrip(Format const & format, CDevicelore & library, QVector<FormatFault> & faults)
@@ -168,6 +209,7 @@ void checkRoundTrip(Format const & format, CDevicelore & library, QVector<Format
 
 void checkConversion(Format const & format, CDevicelore & library, QVector<FormatFault> & faults)
 {
+    bool const fits = !format.isConverted() || checkRangeSize(format, faults);
     if (!format.isConverted() || format.spec.size > convertedBytes) {
         faults.append({"values-unconverted", "Format",
                        QStringLiteral("\"%1\" has the conversion '%3' and the size %2")
@@ -175,7 +217,6 @@ void checkConversion(Format const & format, CDevicelore & library, QVector<Forma
                                 QString(QLatin1Char(format.spec.conversion)))});
         return;
     }
-    bool const fits = checkRangeSize(format, faults);
     bool const isTellable = format.spec.conversion == 'x' || checkStep(format, faults);
     if (!fits || format.object.minValue() > format.object.maxValue())
         return;
@@ -210,7 +251,10 @@ QVector<FormatFault> formatFaults(CObjectDef const & object, CDevicelore & libra
                        QStringLiteral("\"%1\" names no conversion that has a size").arg(format.text)});
         return faults;
     }
-    checkSize(format, faults);
+    if (format.spec.conversion == 's')
+        checkTextSize(format, faults);
+    else
+        checkSize(format, faults);
     if (CObjectDef::decimals(format.text) != format.spec.precision)
         faults.append({"unit-point", "Format",
                        QStringLiteral("\"%1\" prints with the precision %2 and says %3")

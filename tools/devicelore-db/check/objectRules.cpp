@@ -100,6 +100,17 @@ void checkDefault(ObjectRow const & row)
                    QStringLiteral("%1 is no multiple of %2").arg(text, textOf(object.step())));
 }
 
+/// Unlike that of a number, the default of a text may be empty.
+void checkTextDefault(ObjectRow const & row)
+{
+    QString const text = qt5::toText(row.object.defaultValue());
+    int const room = std::max(row.object.size() - 1, 0); // the terminator takes one byte
+    if (text.size() > room)
+        row.report(
+            "default-out-of-range", "DefaultValue",
+            QStringLiteral("it has %1 characters, and Size leaves room for %2").arg(text.size()).arg(room));
+}
+
 void checkUnchecked(ObjectRow const & row)
 {
     if (row.object.objectType() == CObjectDef::ObjectTypeHexDump)
@@ -123,6 +134,8 @@ void checkObjects(Inspected const & inspected)
             checkStep(object);
             checkDefault(object);
         }
+        if (object.object.objectType() == CObjectDef::ObjectTypeString && object.object.isWriteable())
+            checkTextDefault(object);
         checkUnchecked(object);
         for (FormatFault const & fault : formatFaults(object.object, inspected.set.library()))
             object.report(fault.rule, fault.column, fault.message);
