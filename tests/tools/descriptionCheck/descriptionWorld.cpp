@@ -11,6 +11,7 @@ namespace kestrova::test {
 namespace {
 
 char const * const goodDatabase = R"(
+CREATE TABLE Version (Major INTEGER, Minor INTEGER, Bugfix INTEGER);
 CREATE TABLE Guids (GUID TEXT, DeviceType TEXT, Version TEXT, Access INTEGER, OnoType INTEGER);
 CREATE TABLE Hardwaretypes (Type INTEGER, DeviceType TEXT);
 CREATE TABLE Objects (id INTEGER PRIMARY KEY, Name TEXT, BoxNumber INTEGER, ObjectNumber INTEGER,
@@ -36,6 +37,7 @@ CREATE INDEX TextsByOffset ON TextsObjectValues (TextOffset);
 CREATE INDEX FittingsByGuid ON GuidsSpeakersFilters (GUID, SpeakerId);
 CREATE INDEX FiltersById ON Filters (Id);
 
+INSERT INTO Version VALUES (1, 2, 3);
 INSERT INTO Guids VALUES ('C7000012', 'Hesko', '1.00', 1, 1), ('C7000112', 'Hesko', '1.10', 1, 1);
 INSERT INTO Hardwaretypes VALUES (3, 'Hesko');
 INSERT INTO Objects (id, Name, BoxNumber, ObjectNumber, Format, Min, Max, Step, Size, DefaultValue, TextOffset, ClassId)

@@ -203,6 +203,13 @@ std::vector<BadRow> const & badRows()
          "a.db3, TextsObjectValues, , TextOffset: CREATE INDEX TextsObjectValuesByOffset ON "
          "TextsObjectValues "
          "(TextOffset) [index-missing]"},
+        {"index-missing",
+         "DROP INDEX ObjectsByName; CREATE INDEX Some ON Objects (Name) WHERE Name <> 'Gain'", "", "",
+         "a.db3, Objects, , Name: CREATE INDEX ObjectsByName ON Objects (Name) [index-missing]"},
+        {"index-missing", "DROP INDEX ObjectsByName; CREATE INDEX Lower ON Objects (lower(Name), Name)", "",
+         "", "a.db3, Objects, , Name: CREATE INDEX ObjectsByName ON Objects (Name) [index-missing]"},
+        {"index-missing", "DROP INDEX ObjectsByName; CREATE INDEX AnyCase ON Objects (Name COLLATE NOCASE)",
+         "", "", "a.db3, Objects, , Name: CREATE INDEX ObjectsByName ON Objects (Name) [index-missing]"},
         {"level-hides-type", "UPDATE Guids SET Access = 2", "", "",
          "a.db3, Guids, Access, type 12: devices of the type are seen from level 2 on [level-hides-type]"},
         {"link-missing-object", "INSERT INTO guidsandobjects VALUES (77, 'C7000112')", "", "",
@@ -242,6 +249,14 @@ std::vector<BadRow> const & badRows()
          "[object-unlinked]"},
         {"number-cut", "UPDATE Objects SET ChannelCount = 256 WHERE id = 2", "", "",
          "a.db3, Objects, ChannelCount, DeviceName (id 2): ChannelCount is 256; 0 to 255 fit [number-cut]"},
+        {"number-cut",
+         "UPDATE Filters SET Id = 256 WHERE Id = 11; UPDATE GuidsSpeakersFilters SET FilterId = 256 WHERE "
+         "FilterId = 11",
+         "", "", "a.db3, Filters, Id, filter 256: Id is 256; 0 to 255 fit [number-cut]"},
+        {"number-cut", "UPDATE Version SET Major = 256, Minor = -1, Bugfix = 65536", "", "",
+         "a.db3, Version, Bugfix, 256: Bugfix is 65536; 0 to 65535 fit [number-cut]\n"
+         "a.db3, Version, Major, 256: Major is 256; 0 to 255 fit [number-cut]\n"
+         "a.db3, Version, Minor, 256: Minor is -1; 0 to 255 fit [number-cut]"},
         {"number-fraction", "UPDATE Speakers SET SortOrder = 10.5 WHERE SpeakerId = 71", "", "",
          "a.db3, Speakers, SortOrder, speaker 71 (Linear): SortOrder is 10.5 [number-fraction]"},
         {"object-address", "UPDATE Objects SET BoxNumber = 32 WHERE id = 1", "", "",
@@ -386,6 +401,32 @@ std::vector<GoodRow> const & goodRows()
          "UPDATE Objects SET DefaultValue = 'longer than sixteen', Size = 16, Flags = 1 WHERE id = 2", ""},
         {"format-size", "UPDATE Objects SET Format = '%s', Size = 16 WHERE id = 2", ""},
         {"format-size", "UPDATE Objects SET Size = 256 WHERE id = 2", ""},
+        {"index-missing", "DROP INDEX ObjectsByName; CREATE UNIQUE INDEX i ON Objects (Name DESC)", ""},
+        {"index-missing", "DROP INDEX ObjectsByName; CREATE INDEX i ON Objects (Name) WHERE Name IS NOT NULL",
+         ""},
+        {"index-missing",
+         "DROP INDEX TextsByOffset; ALTER TABLE TextsObjectValues RENAME TO t; CREATE TABLE "
+         "TextsObjectValues "
+         "(TextOffset INTEGER, Value INTEGER, TextShort_en_US TEXT, TextShort_de_DE TEXT, "
+         "PRIMARY KEY (TextOffset, Value)) WITHOUT ROWID; INSERT INTO TextsObjectValues SELECT * FROM t",
+         ""},
+        {"index-missing",
+         "DROP INDEX FiltersById; ALTER TABLE Filters RENAME TO f; CREATE TABLE Filters (Id INTEGER PRIMARY "
+         "KEY, Number, Type, Min, Max, DisplayNameShort, TextOffset, StateTexts); INSERT INTO Filters SELECT "
+         "* FROM f",
+         ""},
+        // All rows agree: SQLite leaves the index aside for now.
+        {"index-missing",
+         "WITH RECURSIVE n(i) AS (SELECT 2 UNION ALL SELECT i + 1 FROM n WHERE i < 90) INSERT INTO "
+         "TextsObjectValues SELECT 30, i, 'x', 'x' FROM n; DELETE FROM TextsObjectValues WHERE TextOffset = "
+         "70; UPDATE Filters SET TextOffset = 30, Max = 90 WHERE Id = 11",
+         ""},
+        {"number-cut", "UPDATE Version SET Major = 255, Minor = 0, Bugfix = 65535", ""},
+        {"number-cut", "INSERT INTO Version VALUES (256, 256, 65536)", ""}, // only the first row counts
+        {"number-cut",
+         "UPDATE Filters SET Id = 255 WHERE Id = 11; UPDATE GuidsSpeakersFilters SET FilterId = 255 WHERE "
+         "FilterId = 11",
+         ""},
         {"object-id-twice", OBJECTS_WITHOUT_KEY, ""},
         {"object-id-twice",
          OBJECTS_WITHOUT_KEY

@@ -5,6 +5,10 @@ namespace kestrova::authoring {
 std::vector<KnownColumn> const & knownColumns()
 {
     static std::vector<KnownColumn> const all{
+        {"Version", "Major", Reading::Unsigned8, Need::Position, 0},
+        {"Version", "Minor", Reading::Unsigned8, Need::Position, 1},
+        {"Version", "Bugfix", Reading::Unsigned16, Need::Position, 2},
+
         {"Guids", "GUID", Reading::Text, Need::Statement},
         {"Guids", "DeviceType", Reading::Text, Need::Statement},
         {"Guids", "Version", Reading::Text, Need::Statement},
@@ -62,7 +66,7 @@ std::vector<KnownColumn> const & knownColumns()
         {"GuidsSpeakersFilters", "FilterId", Reading::FilterNumber, Need::Statement},
         {"GuidsSpeakersFilters", "Access", Reading::Int, Need::Statement},
 
-        {"Filters", "Id", Reading::FilterNumber, Need::Statement},
+        {"Filters", "Id", Reading::FilterKey, Need::Statement},
         {"Filters", "Number", Reading::Unsigned8, Need::Statement},
         {"Filters", "Type", Reading::Unsigned8, Need::Statement},
         {"Filters", "Min", Reading::Int, Need::Statement},

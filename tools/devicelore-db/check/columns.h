@@ -14,6 +14,7 @@ enum class Reading {
     Unsigned32,
     Real,
     FilterNumber, ///< an integer; but the text "---" says that there is deliberately no filter
+    FilterKey,    ///< the same, of which the low byte is kept
 };
 
 /// What happens without the column, or with its name in another case.
@@ -22,6 +23,7 @@ enum class Need {
     Row,       ///< it is looked for by its exact name: without it the member is empty
     Optional,  ///< it is looked for by its exact name; databases of an older form lack it
     Probed,    ///< databases of an older form lack it; the case does not matter
+    Position,  ///< it is read from the first row by its position, whatever it is called
 };
 
 /// One column that the library reads.
@@ -30,6 +32,7 @@ struct KnownColumn {
     char const * name;
     Reading reading;
     Need need;
+    int position = 0; ///< for Need::Position
 };
 
 /// All columns, table by table. Of TextsObjectValues the columns of the languages are not among them.

@@ -127,7 +127,8 @@ std::vector<Rule> const & rules()
          "the hardware has a name, and no device", "correct DeviceType, or describe the model"},
         {"index-missing", Warning, "an index for the library's statements is missing",
          "every first question for an object, a speaker, a filter or a text reads the whole table",
-         "run the statement that is shown"},
+         "run the statement that is shown; an index on an expression, of a part of the rows or with another "
+         "collation does not serve them"},
         {"level-hides-type", Hint, "all descriptions of a device type need a level above 1",
          "at the level 1, at which applications start, devices of the type are unknown",
          "nothing, if that is meant"},

@@ -39,6 +39,8 @@ void reportMissing(Inspected const & inspected, Table const & table, KnownColumn
 
 void checkColumn(Inspected const & inspected, Table const & table, KnownColumn const & known)
 {
+    if (known.need == Need::Position)
+        return;
     QString const name = QLatin1String(known.name);
     int const position = table.column(name);
     if (position < 0) {
@@ -62,12 +64,17 @@ void checkLanguages(Inspected const & inspected)
                                QStringLiteral("there is no column TextShort_en_US"));
 }
 
-QVector<QVariant> columnOf(Inspected const & inspected, QString const & statement, int column)
+/// A column of the rows of a statement, with a value for its question mark if it has one.
+QVector<QVariant> columnOf(Inspected const & inspected, QString const & statement, int column,
+                           QVariant const & bound = {})
 {
     QSqlQuery query(inspected.database.connection);
     query.setForwardOnly(true);
     QVector<QVariant> values;
-    if (!query.exec(statement))
+    query.prepare(statement);
+    if (bound.isValid())
+        query.bindValue(0, bound);
+    if (!query.exec())
         return values;
     while (query.next())
         values.append(query.value(column));
@@ -79,29 +86,33 @@ QString quoted(QString name)
     return QStringLiteral("\"%1\"").arg(name.replace(QLatin1Char('"'), QLatin1String("\"\"")));
 }
 
-QStringList leadingColumns(Inspected const & inspected, Table const & table)
+/// The ways to look for rows of a table: by its key, and by each of its indexes.
+QStringList waysInto(Inspected const & inspected, Table const & table)
 {
-    QStringList columns;
-    QString const keys = QStringLiteral("PRAGMA table_info(%1)").arg(quoted(table.name));
-    QVector<QVariant> const names = columnOf(inspected, keys, 1);
-    QVector<QVariant> const positions = columnOf(inspected, keys, 5);
-    for (int i = 0; i < names.size() && i < positions.size(); ++i) {
-        if (qt5::toInt(positions.at(i)) == 1)
-            columns.append(qt5::toText(names.at(i))); // the first column of the primary key
-    }
-    QString const indexes = QStringLiteral("PRAGMA index_list(%1)").arg(quoted(table.name));
-    for (QVariant const & index : columnOf(inspected, indexes, 1)) {
-        QString const statement = QStringLiteral("PRAGMA index_info(%1)").arg(quoted(index.toString()));
-        columns.append(qt5::toText(columnOf(inspected, statement, 2).value(0)));
-    }
-    return columns;
+    QStringList ways{QString()};
+    for (QVariant const & index :
+         columnOf(inspected, QStringLiteral("PRAGMA index_list(%1)").arg(quoted(table.name)), 1))
+        ways.append(QStringLiteral("INDEXED BY ") + quoted(qt5::toText(index)));
+    return ways;
+}
+
+/// Whether SQLite can find the rows by that way. It is asked itself, with each index in turn: an index with a
+/// condition, on an expression or with another collation than the column has does not serve, and among all of
+/// them SQLite may leave a good one aside in a table as small as it is now.
+bool finds(Inspected const & inspected, Table const & table, QString const & way, char const * column)
+{
+    QString const plan = QStringLiteral("EXPLAIN QUERY PLAN SELECT * FROM %1 %2 WHERE %3 = ?");
+    QVector<QVariant> const steps =
+        columnOf(inspected, plan.arg(quoted(table.name), way, QLatin1String(column)), 3, QStringLiteral("x"));
+    return !steps.isEmpty() && qt5::toText(steps.first()).startsWith(QLatin1String("SEARCH"));
 }
 
 bool hasIndex(Inspected const & inspected, Table const & table, KnownIndex const & known)
 {
-    QStringList const leading = leadingColumns(inspected, table);
+    QStringList const ways = waysInto(inspected, table);
     return std::any_of(known.columns.begin(), known.columns.end(), [&](char const * column) {
-        return leading.contains(QLatin1String(column), Qt::CaseInsensitive);
+        return std::any_of(ways.begin(), ways.end(),
+                           [&](QString const & way) { return finds(inspected, table, way, column); });
     });
 }
 
@@ -141,8 +152,9 @@ void checkIndexes(Inspected const & inspected)
 void checkStatistics(Inspected const & inspected)
 {
     auto const & tables = inspected.database.tables;
-    bool const isEmpty =
-        std::all_of(tables.begin(), tables.end(), [](Table const & table) { return table.rowCount() == 0; });
+    bool const isEmpty = std::all_of(tables.begin(), tables.end(), [](Table const & table) {
+        return table.rowCount() == 0 || table.name == QLatin1String("Version"); // which every database has
+    });
     QString const statement = QStringLiteral("SELECT 1 FROM sqlite_stat1 LIMIT 1");
     if (!isEmpty && columnOf(inspected, statement, 0).isEmpty())
         inspected.findings.add("statistics-missing", {inspected.database.file, {}, 0, {}, {}}, {},
@@ -160,6 +172,7 @@ Bounds boundsOf(Reading reading)
 {
     switch (reading) {
     case Reading::Unsigned8:
+    case Reading::FilterKey:
         return {0, 255};
     case Reading::Unsigned16:
         return {0, 65535};
@@ -175,7 +188,8 @@ Bounds boundsOf(Reading reading)
 
 bool isDeliberatelyNoFilter(Reading reading, QVariant const & value)
 {
-    return reading == Reading::FilterNumber && qt5::toText(value) == QLatin1String("---");
+    bool const isFilter = reading == Reading::FilterNumber || reading == Reading::FilterKey;
+    return isFilter && qt5::toText(value) == QLatin1String("---");
 }
 
 /// The rule that a value breaks; null when it breaks none.
@@ -207,6 +221,7 @@ QString messageOf(QVariant const & value, KnownColumn const & known)
     QString is = QStringLiteral("%1 is %2").arg(QLatin1String(known.name), shownValue(value));
     switch (known.reading) {
     case Reading::Unsigned8:
+    case Reading::FilterKey:
         return QStringLiteral("%1; 0 to 255 fit").arg(is);
     case Reading::Unsigned16:
         return QStringLiteral("%1; 0 to 65535 fit").arg(is);
@@ -217,15 +232,20 @@ QString messageOf(QVariant const & value, KnownColumn const & known)
 
 void checkColumnValues(Inspected const & inspected, Table const & table, KnownColumn const & known)
 {
-    int const column = table.column(QLatin1String(known.name));
-    if (column < 0)
+    bool const isByPosition = known.need == Need::Position;
+    int const column = isByPosition ? known.position : table.column(QLatin1String(known.name));
+    if (column < 0 || column >= table.columns.size())
         return;
-    for (int row = 0; row < table.rowCount(); ++row) {
+    int const rows = isByPosition ? std::min(1, table.rowCount()) : table.rowCount();
+    for (int row = 0; row < rows; ++row) {
         QVariant const & value = table.value(row, column);
         if (isDeliberatelyNoFilter(known.reading, value))
             continue;
         if (char const * const rule = brokenRule(value, known))
-            inspected.report(rule, table, row, known.name, subjectOf(table, row), messageOf(value, known));
+            inspected.findings.add(rule,
+                                   {inspected.database.file, table.name, table.rowNumber(row),
+                                    QLatin1String(known.name), subjectOf(table, row)},
+                                   shownValue(value), messageOf(value, known));
     }
 }
 
