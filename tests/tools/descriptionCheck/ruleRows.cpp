@@ -353,6 +353,26 @@ std::vector<BadRow> const & badRows()
         {"text-out-of-range", "INSERT INTO TextsObjectValues VALUES (30, 2, 'Both', 'Beide')", "", "",
          "a.db3, TextsObjectValues, Value, texts 30, value 2: 2 is outside the range of Polarity (id 102) "
          "[text-out-of-range]"},
+        {"text-out-of-range",
+         FILTER_OBJECT
+         "INSERT INTO TextsObjectValues VALUES (30, 2, 'Both', 'Beide'), (30, 3, 'All', 'Alle'); "
+         "INSERT INTO Filters VALUES (12, 1, 0, 0, 2, 'Stack', 0, ''), (22, 2, 0, 0, 3, 'Air', 0, ''); "
+         "UPDATE GuidsSpeakersFilters SET FilterId = 12 WHERE SpeakerId = 68; "
+         "INSERT INTO GuidsSpeakersFilters VALUES ('C7000012', 71, 22, 1)",
+         "", "",
+         "a.db3, TextsObjectValues, Value, texts 30, value 3: 3 is outside the range of Polarity (id 102) "
+         "[text-out-of-range]"},
+        // "---" is no filter, and slot 0 has no other.
+        {"text-out-of-range",
+         "INSERT INTO Objects (id, Name, BoxNumber, ObjectNumber, Format, Min, Max, Step, Size, "
+         "DefaultValue, "
+         "TextOffset) VALUES (210, 'Config_Filter0', 2, 10, '%1U', 0, 1, 1, 1, '0', 30); "
+         "INSERT INTO guidsandobjects VALUES (210, 'C7000012'); "
+         "INSERT INTO Filters VALUES ('---', 0, 0, 0, 9, 'None', 0, ''); INSERT INTO GuidsSpeakersFilters "
+         "VALUES ('C7000012', 71, '---', 1); INSERT INTO TextsObjectValues VALUES (30, 9, 'Nine', 'Neun')",
+         "", "",
+         "a.db3, TextsObjectValues, Value, texts 30, value 9: 9 is outside the range of Polarity (id 102) "
+         "[text-out-of-range]"},
         {"text-twice", "INSERT INTO TextsObjectValues VALUES (30, 1, 'Turned', 'Gedreht')", "", "",
          "a.db3, TextsObjectValues, Value, texts 30, value 1: the value 1 of group 30 has a later text "
          "[text-twice]"},
@@ -360,11 +380,30 @@ std::vector<BadRow> const & badRows()
          "a.db3, TextsObjectValues, TextShort_en_US, : there is no column TextShort_en_US [texts-language]"},
         {"texts-missing", "UPDATE Objects SET TextOffset = 31 WHERE id = 1", "", "",
          "a.db3, Objects, TextOffset, Power (id 1): there is no group 31 of texts [texts-missing]"},
+        {"texts-missing", "UPDATE Filters SET TextOffset = 71 WHERE Id = 19", "", "",
+         "a.db3, Filters, TextOffset, filter 19: there is no group 71 of texts [texts-missing]"},
+        {"texts-missing", "",
+         TEXTS_TABLE FOREIGN_FILTER GUIDS_TABLE
+         "INSERT INTO Guids VALUES ('C7000012', 'Hesko', '1.00', 1, 1);" TEXTS_80,
+         "",
+         "b.db3, Filters, TextOffset, filter 21: there is no group 80 of texts in a.db3 [texts-missing]\n"
+         "b.db3, Guids, GUID, C7000012: C7000012 is described by a.db3 [older-description]\n"
+         "b.db3, TextsObjectValues, TextOffset, texts 80: no object or filter of its devices has the "
+         "TextOffset 80 [texts-unused]"},
+        // The first row of a slot leads nowhere, and so the next database is asked, not the next row.
+        {"texts-missing",
+         "INSERT INTO GuidsSpeakersFilters VALUES ('C7000012', 71, 22, 1), ('C7000012', 71, 29, 1); "
+         "INSERT INTO Filters VALUES (29, 2, 0, 0, 1, 'Air', 0, '')",
+         FOREIGN_FILTER, "",
+         "a.db3, GuidsSpeakersFilters, FilterId, filter 22: Filters has no row 22 [filter-missing]\n"
+         "a.db3, GuidsSpeakersFilters, FilterId, speaker 71, slot 2: speaker 71 has the filter 22 in slot 2 "
+         "already, first for C7000012 [filter-slot-twice]\n"
+         "b.db3, Filters, TextOffset, filter 21: there is no group 80 of texts in a.db3 [texts-missing]"},
         {"texts-offset", "UPDATE Objects SET TextOffset = 1 WHERE id = 1", "", "",
          "a.db3, Objects, TextOffset, Power (id 1): Power (id 1) has the group 1 [texts-offset]"},
         {"texts-unused", "INSERT INTO TextsObjectValues VALUES (40, 0, 'Off', 'Aus')", "", "",
-         "a.db3, TextsObjectValues, TextOffset, texts 40: no object or filter has the TextOffset 40 "
-         "[texts-unused]"},
+         "a.db3, TextsObjectValues, TextOffset, texts 40: no object or filter of its devices has "
+         "the TextOffset 40 [texts-unused]"},
         {"type-two-models", "UPDATE Guids SET DeviceType = 'Kalom' WHERE GUID = 'C7000112'", "", "",
          "a.db3, Guids, DeviceType, C7000112: the model is \"Kalom\" here and \"Hesko\" in C7000012 "
          "[type-two-models]"},
@@ -373,6 +412,20 @@ std::vector<BadRow> const & badRows()
          "[unit-point]"},
         {"value-text-missing", "DELETE FROM TextsObjectValues WHERE TextOffset = 30 AND Value = 1", "", "",
          "a.db3, Objects, TextOffset, Polarity (id 102): group 30 has no text for 1 [value-text-missing]"},
+        {"value-text-missing",
+         FILTER_OBJECT
+         "UPDATE Filters SET Max = 3 WHERE Id = 11; INSERT INTO TextsObjectValues VALUES (70, 2, "
+         "'Half', 'Halb'), (70, 3, 'Full', 'Ganz')",
+         "", "",
+         "a.db3, Objects, TextOffset, Config_Filter1 (id 211): group 30 has no text for 2, 3 "
+         "[value-text-missing]"},
+        {"value-text-missing", TEXTS_80 "; DELETE FROM TextsObjectValues WHERE TextOffset = 80 AND Value = 1",
+         FOREIGN_FILTER, "",
+         "b.db3, Filters, TextOffset, filter 21: group 80 in a.db3 has no text for 1 [value-text-missing]"},
+        {"value-text-missing",
+         CABLEFIT_OBJECT "UPDATE Speakers SET CablefitMaxCount = 2 WHERE SpeakerId = 71", "", "",
+         "a.db3, Objects, TextOffset, Config_CablefitSpeakerCount (id 212): group 30 has no text for 2 "
+         "[value-text-missing]"},
         {"values-unchecked", "UPDATE Objects SET Format = '%6H', Size = 6 WHERE id = 109", "", "",
          "a.db3, Objects, Format, Trim (id 109): the object is a dump of bytes [values-unchecked]"},
         {"values-unchecked", "UPDATE Objects SET Format = '%04X', Max = 1200, Min = 0 WHERE id = 109", "", "",
@@ -437,6 +490,25 @@ std::vector<GoodRow> const & goodRows()
         {"round-trip", "UPDATE Objects SET Format = '%3U', Max = 200, Size = 1 WHERE id = 202", ""},
         {"round-trip", "UPDATE Objects SET Format = '%5u', Max = 65535 WHERE id = 202", ""},
         {"round-trip", "UPDATE Objects SET Format = '%I32u', Max = 4294967295, Size = 4 WHERE id = 202", ""},
+        {"text-out-of-range",
+         FILTER_OBJECT
+         "UPDATE Filters SET Max = 2 WHERE Id = 11; INSERT INTO TextsObjectValues VALUES (30, 2, "
+         "'Both', 'Beide'), (70, 2, 'Half', 'Halb')",
+         ""},
+        {"text-out-of-range",
+         CABLEFIT_OBJECT "UPDATE Speakers SET CablefitMaxCount = 2 WHERE SpeakerId = 71; INSERT INTO "
+                         "TextsObjectValues VALUES (30, 2, 'Both', 'Beide')",
+         ""},
+        {"texts-missing", TEXTS_80, FOREIGN_FILTER},
+        // The first database has a filter for the slot, so that nobody asks for that of the second.
+        {"texts-missing",
+         "UPDATE GuidsSpeakersFilters SET FilterId = 29 WHERE SpeakerId = 71; INSERT INTO Filters VALUES "
+         "(29, 2, 0, 0, 1, 'Air', 0, '')",
+         TEXTS_TABLE FOREIGN_FILTER TEXTS_80},
+        {"texts-offset",
+         "UPDATE Filters SET TextOffset = 1 WHERE Id = 19; INSERT INTO TextsObjectValues VALUES (1, 0, "
+         "'Off', 'Aus'), (1, 1, 'On', 'Ein')",
+         ""},
     };
     return all;
 }

@@ -14,6 +14,8 @@
 #include <QFileInfo>
 #include <QSqlQuery>
 
+#include <algorithm>
+
 using namespace kestrova::Morvel::Devicelore;
 using namespace kestrova::tools;
 
@@ -49,6 +51,18 @@ QSet<int> LibraryCache::speakerIds() const
     return ids;
 }
 
+int LibraryCache::largestCablefitCount() const
+{
+    int largest = 0;
+    for (unsigned short const id : speakerItems->speakerIds()) {
+        QList<CSpeakerDef> speakers;
+        speakerItems->speakerDef(id, speakers, SpeakerDefCablefitMaxCount);
+        if (!speakers.isEmpty())
+            largest = std::max(largest, speakers.first().cablefitMaxCount());
+    }
+    return largest;
+}
+
 CDriverCacheFilterItem const * LibraryCache::filter(CDeviceGuid const & guid,
                                                     CDeviceChannelInfo const & channel, int number) const
 {
@@ -79,6 +93,7 @@ DescriptionSet::DescriptionSet(QStringList const & pathsToRead)
     }
     openAll();
     rememberNames();
+    rememberFilters();
 }
 
 void DescriptionSet::addFolder(QString const & folderPath)
@@ -130,6 +145,15 @@ void DescriptionSet::rememberNames()
          facade->devicePropertyFilterByExpression(QStringLiteral("SELECT DISTINCT Name FROM Objects")))
         objectNames.insert(name);
     speakerIds = ownedByLibrary->speakerIds();
+}
+
+void DescriptionSet::rememberFilters()
+{
+    for (QString const & name : open) {
+        QSqlDatabase const connection = QSqlDatabase::database(name, false);
+        filters.add(name, Table::read(connection, QStringLiteral("Filters")),
+                    Table::read(connection, QStringLiteral("GuidsSpeakersFilters")));
+    }
 }
 
 Database DescriptionSet::read(QString const & fileName) const

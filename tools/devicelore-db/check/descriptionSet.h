@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/deviceFilters.h"
 #include "check/finding.h"
 #include "check/table.h"
 
@@ -32,6 +33,9 @@ public:
     bool hasObjectClass(unsigned short classId) const;
 
     QSet<int> speakerIds() const;
+
+    /// The largest maximum that an object for the number of Cablefit speakers gets on a speaker.
+    int largestCablefitCount() const;
 
     /// A filter that was named before; null when the speaker has none.
     Morvel::Devicelore::CDriverCacheFilterItem const *
@@ -78,11 +82,14 @@ public:
     /// Whether any database defines a speaker.
     bool hasSpeaker(int speakerId) const { return speakerIds.contains(speakerId); }
 
+    DeviceFilters const & deviceFilters() const { return filters; }
+
 private:
     void addFile(QString const & filePath);
     void addFolder(QString const & folderPath);
     void openAll();
     void rememberNames();
+    void rememberFilters();
 
     QStringList files; ///< names, in order
     QHash<QString, QString> paths;
@@ -90,6 +97,7 @@ private:
     QHash<QString, QString> unreadable; ///< why, by name
     QSet<QString> objectNames;
     QSet<int> speakerIds;
+    DeviceFilters filters;
     LibraryCache * ownedByLibrary;
     std::unique_ptr<Morvel::Devicelore::CDevicelore> facade;
 };

@@ -220,8 +220,9 @@ std::vector<Rule> const & rules()
          "delete the row that does not count"},
         {"texts-language", Warning, "the texts lack the column TextShort_en_US",
          "in the language that applications start with there are no texts", "add the column"},
-        {"texts-missing", Error, "an object has a group of texts that is not there",
-         "a choice or readout without texts", "add the texts, or set TextOffset to 0"},
+        {"texts-missing", Error, "an object or a filter has a group of texts that is not there",
+         "a choice or readout without texts: they are looked for in the database of the device",
+         "add the texts, or set TextOffset to 0"},
         {"texts-offset", Hint, "an object has the group of texts 1, which stands for none",
          "the texts are found by whoever asks for them, and the kind of control is that of a value without "
          "texts",
