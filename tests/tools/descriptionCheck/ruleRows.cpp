@@ -174,6 +174,20 @@ std::vector<BadRow> const & badRows()
          "", "", "a.db3, DevicePropertyFilter, Expression, Lost: no such column: Nmae [group-faulty]"},
         {"group-faulty", "INSERT INTO DevicePropertyFilter VALUES ('Empty', ' ', 1)", "", "",
          "a.db3, DevicePropertyFilter, Expression, Empty: there is no statement [group-faulty]"},
+        {"group-faulty", "INSERT INTO DevicePropertyFilter VALUES ('Two', 'SELECT ''Gain''; SELECT 2', 1)",
+         "", "",
+         "a.db3, DevicePropertyFilter, Expression, Two: nothing may stand behind the first statement "
+         "[group-faulty]"},
+        {"group-faulty", "INSERT INTO DevicePropertyFilter VALUES ('One', 'SELECT ''Gain''; -- all', 1)", "",
+         "",
+         "a.db3, DevicePropertyFilter, Expression, One: nothing may stand behind the first statement "
+         "[group-faulty]"},
+        {"group-faulty", "INSERT INTO DevicePropertyFilter VALUES ('Asking', 'SELECT ?', 1)", "", "",
+         "a.db3, DevicePropertyFilter, Expression, Asking: Parameter count mismatch [group-faulty]"},
+        {"group-faulty",
+         "INSERT INTO DevicePropertyFilter VALUES ('Endless', 'WITH RECURSIVE c(i) AS (SELECT 1 UNION ALL "
+         "SELECT i + 1 FROM c) SELECT i FROM c', 1)",
+         "", "", "a.db3, DevicePropertyFilter, Expression, Endless: interrupted [group-faulty]"},
         {"group-level", "UPDATE DevicePropertyFilter SET Access = 0", "", "",
          "a.db3, DevicePropertyFilter, Access, Channel: Access is 0 [group-level]"},
         {"group-name", "INSERT INTO DevicePropertyFilter VALUES ('Old', 'SELECT ''Treble''', 1)", "", "",
@@ -454,6 +468,7 @@ std::vector<GoodRow> const & goodRows()
          "UPDATE Objects SET DefaultValue = 'longer than sixteen', Size = 16, Flags = 1 WHERE id = 2", ""},
         {"format-size", "UPDATE Objects SET Format = '%s', Size = 16 WHERE id = 2", ""},
         {"format-size", "UPDATE Objects SET Size = 256 WHERE id = 2", ""},
+        {"group-faulty", "UPDATE DevicePropertyFilter SET Expression = ' SELECT ''Gain'' ; '", ""},
         {"index-missing", "DROP INDEX ObjectsByName; CREATE UNIQUE INDEX i ON Objects (Name DESC)", ""},
         {"index-missing", "DROP INDEX ObjectsByName; CREATE INDEX i ON Objects (Name) WHERE Name IS NOT NULL",
          ""},

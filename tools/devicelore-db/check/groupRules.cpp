@@ -1,10 +1,16 @@
 #include "check/check.h"
 
-#include "core/qt5Conversions.h"
+#include "cache/databaseAccess.h"
 
 #include <QSet>
 #include <QSqlError>
 #include <QSqlQuery>
+
+#include <sqlite3.h>
+
+#include <utility>
+
+using namespace kestrova::Morvel::Devicelore;
 
 namespace kestrova::authoring {
 
@@ -27,6 +33,21 @@ void checkNames(Inspected const & inspected, Table const & groups, int row, QStr
     }
 }
 
+QString reasonOf(QSqlError const & error)
+{
+    if (error.nativeErrorCode() == QString::number(SQLITE_MISUSE)) // of which SQLite says "not an error"
+        return QStringLiteral("nothing may stand behind the first statement");
+    return error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
+}
+
+/// Runs the statement as the library does. Why it fails; empty if it does not.
+QString troubleOf(QSqlQuery & query, QString const & expression)
+{
+    if (expression.trimmed().isEmpty()) // of which Qt would complain
+        return QStringLiteral("there is no statement");
+    return query.prepare(expression) && executeWhole(query) ? QString() : reasonOf(query.lastError());
+}
+
 void checkGroup(Inspected const & inspected, Table const & groups, int row)
 {
     QString const group = groups.text(row, "FilterName");
@@ -34,18 +55,11 @@ void checkGroup(Inspected const & inspected, Table const & groups, int row)
     if (groups.column(QStringLiteral("Access")) >= 0 && (groups.number(row, "Access") & 0xFF) == 0)
         inspected.report("group-level", groups, row, "Access", group, QStringLiteral("Access is 0"));
     QSqlQuery query(inspected.database.connection);
-    query.setForwardOnly(true);
-    // Qt complains of an empty statement itself.
-    if (expression.trimmed().isEmpty() || !query.exec(expression)) {
-        inspected.report("group-faulty", groups, row, "Expression", group,
-                         expression.trimmed().isEmpty() ? QStringLiteral("there is no statement")
-                                                        : query.lastError().databaseText());
-        return;
-    }
-    QStringList names;
-    while (query.next())
-        names.append(qt5::toText(query.value(0)));
-    checkNames(inspected, groups, row, names);
+    QString const trouble = troubleOf(query, expression);
+    if (trouble.isEmpty())
+        checkNames(inspected, groups, row, firstColumn(std::move(query)));
+    else
+        inspected.report("group-faulty", groups, row, "Expression", group, trouble);
 }
 
 } // namespace

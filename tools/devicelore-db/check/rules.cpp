@@ -104,7 +104,8 @@ std::vector<Rule> const & rules()
          "write a conversion that the library knows; docs/format-language.md "
          "lists them"},
         {"group-faulty", Error, "the statement of a property group fails",
-         "the group exists and is empty, or keeps what other databases gave it", "correct the statement"},
+         "the group exists and is empty, or keeps what other databases gave it",
+         "write one statement that can be run"},
         {"group-level", Hint, "a property group is for level 0", "every caller sees it",
          "say from which level on it is meant to be seen"},
         {"group-name", Warning, "a property group holds a name that no object has",
