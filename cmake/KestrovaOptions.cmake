@@ -19,7 +19,7 @@ endif()
 option(KESTROVA_INSTALL_TOOLS "Install the command line tools; on by default with Qt 5" ${installTools})
 
 set(KESTROVA_CORE "" CACHE STRING
-    "The core library to build against: a CMake target or the path of a shared library; empty builds the stand-in")
+    "The core library to build against: a CMake target or the absolute path of a shared library; empty builds the stand-in")
 
 # Published on purpose: whoever builds without a key of his own protects nothing.
 set(developmentKey "72df367f31d7bdccaa6f7d0917d92ef7d36fc7c1311db06eb6f112f67c945dcb")

@@ -6,15 +6,6 @@
 
 namespace kestrova::tools {
 
-namespace {
-
-void complain(QString const & message)
-{
-    print(stderr, QStringLiteral("%1: %2\n").arg(QCoreApplication::applicationName(), message));
-}
-
-} // namespace
-
 int runTool(char const * name, int argc, char ** argv, int (*run)(QStringList const & arguments))
 {
     QCoreApplication const application(argc, argv);
@@ -35,6 +26,11 @@ void print(FILE * stream, QString const & text)
     QByteArray const bytes = text.toUtf8();
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
     std::fflush(stream); // or a message would overtake the data before it
+}
+
+void complain(QString const & message)
+{
+    print(stderr, QStringLiteral("%1: %2\n").arg(QCoreApplication::applicationName(), message));
 }
 
 ExitCode printAnswer(Answer const & answer, bool asJson)

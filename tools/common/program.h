@@ -16,6 +16,9 @@ int runTool(char const * name, int argc, char ** argv, int (*run)(QStringList co
 /// Prints to \a stream in UTF-8.
 void print(FILE * stream, QString const & text);
 
+/// Prints a message to stderr, behind the tool's name.
+void complain(QString const & message);
+
 /// Prints the answer as text or as JSON, and what it complains of to stderr. Gives its exit code.
 ExitCode printAnswer(Answer const & answer, bool asJson);
 

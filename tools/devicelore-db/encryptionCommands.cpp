@@ -2,6 +2,7 @@
 #include "longWork.h"
 #include "outputFile.h"
 
+#include "common/program.h"
 #include "sqlcipher/databaseFile.h"
 #include "sqlcipher/databaseKey.h"
 
@@ -20,6 +21,14 @@ void checkFiles(QString const & input, QString const & output, bool force)
         throw Failure(ExitUsage,
                       QStringLiteral("'%1' and '%2' are the same file; name another").arg(input, output));
     checkOutput(output, force);
+}
+
+void tellWhoseCipher()
+{
+    if (KESTROVA_CORE_IS_FOREIGN)
+        complain(QStringLiteral(
+            "cipher and key are those of the stand-in for the core library, not those of the core "
+            "library that this build uses"));
 }
 
 sqlcipher::PageFormat const & formatOf(ParsedArguments const & arguments)
@@ -45,6 +54,7 @@ Answer encrypt(ParsedArguments const & arguments)
     QString const & encrypted = arguments.words.at(1);
     sqlcipher::PageFormat const & format = formatOf(arguments);
     checkFiles(plain, encrypted, arguments.isSet("force"));
+    tellWhoseCipher();
     LongWork work(QStringLiteral("encrypting"));
     sqlcipher::encryptDatabase(plain, encrypted, format, sqlcipher::databaseKey, work.progress());
     return {};
@@ -55,6 +65,7 @@ Answer decrypt(ParsedArguments const & arguments)
     QString const & encrypted = arguments.words.at(0);
     QString const & plain = arguments.words.at(1);
     checkFiles(encrypted, plain, arguments.isSet("force"));
+    tellWhoseCipher();
     LongWork work(QStringLiteral("decrypting"));
     sqlcipher::decryptDatabase(encrypted, plain, sqlcipher::databaseKey, work.progress());
     return {};

@@ -60,13 +60,19 @@ std::vector<Command> const & kestrova::authoring::commands()
           "Makes the encrypted database OUT from the database PLAIN, which is not changed. OUT is compact "
           "and "
           "carries\n"
-          "statistics, which make the questions of the library fast.\n",
+          "statistics, which make the questions of the library fast. Cipher and key are those of the core "
+          "library that\n"
+          "comes with this project, the stand-in: OUT is not for an application with another core library.\n",
           {forceOption, {"format", "4|3", "the version of the page format (4 if not given)"}}},
          encrypt},
         {{"decrypt",
           {QStringLiteral("IN"), QStringLiteral("PLAIN")},
           "make a plain database of an encrypted one",
-          "Makes the plain database PLAIN from the encrypted database IN, which is not changed.\n",
+          "Makes the plain database PLAIN from the encrypted database IN, which is not changed. Cipher and "
+          "key "
+          "are those\n"
+          "of the core library that comes with this project, the stand-in: IN is not one for another core "
+          "library.\n",
           {forceOption}},
          decrypt},
         {{"info",
@@ -76,7 +82,9 @@ std::vector<Command> const & kestrova::authoring::commands()
           "that the\n"
           "library knows, and which columns of newer databases it has. Every page is checked. Of a database "
           "that is no\n"
-          "good it tells why, as far as that can be told, and ends with exit code 4.\n",
+          "good it tells why, as far as that can be told, and ends with exit code 4. What is encrypted for "
+          "another core\n"
+          "library than the stand-in that comes with this project cannot be told from a wrong key.\n",
           {jsonOption}},
          info},
         {{"check",

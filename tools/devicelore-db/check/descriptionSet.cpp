@@ -128,13 +128,16 @@ void DescriptionSet::addFile(QString const & filePath)
 void DescriptionSet::openAll()
 {
     for (QString const & name : files) {
-        sqlcipher::Inspection const inspection = sqlcipher::inspectDatabase(paths.value(name));
-        if (inspection.state != sqlcipher::FileState::DamagedPage && !inspection.isGood())
-            unreadable.insert(name, inspection.message);
-        else if (!ownedByLibrary->addDatabase(paths.value(name), name))
-            unreadable.insert(name, QStringLiteral("%1 does not open").arg(paths.value(name)));
-        else
+        if (ownedByLibrary->addDatabase(paths.value(name), name)) {
             open.append(name);
+            continue;
+        }
+        // The core library decides, for it may know another cipher than the inspection.
+        sqlcipher::Inspection const inspection = sqlcipher::inspectDatabase(paths.value(name));
+        bool const isExplained =
+            inspection.state != sqlcipher::FileState::DamagedPage && !inspection.isGood();
+        unreadable.insert(name, isExplained ? inspection.message
+                                            : QStringLiteral("%1 does not open").arg(paths.value(name)));
     }
     ownedByLibrary->readCatalogues();
 }
