@@ -28,7 +28,6 @@ add_compile_options("-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=" "-fmacro-prefix
 # find its sources from anywhere.
 if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
     add_compile_options("-fdebug-prefix-map=${PROJECT_BINARY_DIR}=build" "-fdebug-prefix-map=${PROJECT_SOURCE_DIR}=.")
-    set(CMAKE_BUILD_RPATH_USE_ORIGIN ON) # the build ID is made from the paths of the build, too
 endif()
 
 # Nothing that the oldest supported version of the chosen Qt calls deprecated.

@@ -8,13 +8,9 @@ include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 if(QT EQUAL 6)
     set(suffix Qt6)
 endif()
-set(flags "")
-if(SANITIZE)
-    set(flags "-fsanitize=address,undefined")
-endif()
 set(key "00112233445566778899aabbccddeeff00112233445566778899aabbccddeeff")
 set(configure "${CMAKE_COMMAND}" -G "${GENERATOR}" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}"
-    "-DCMAKE_CXX_COMPILER_LAUNCHER=${CXX_COMPILER_LAUNCHER}" "-DKESTROVA_QT=${QT}" "-DKESTROVA_SANITIZE=${SANITIZE}"
+    "-DCMAKE_CXX_COMPILER_LAUNCHER=${CXX_COMPILER_LAUNCHER}" "-DKESTROVA_QT=${QT}"
     -DBUILD_TESTING=OFF)
 
 # expect(TEXT): ends the test unless the last run() printed this.
@@ -86,7 +82,7 @@ set(prefix "${WORK_DIR}/prefix")
 run("${CMAKE_COMMAND}" --install "${build}" --prefix "${prefix}")
 set(BUILD_DIR "${world}")
 set(example "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples" -G "${GENERATOR}" "-DCMAKE_PREFIX_PATH=${prefix}"
-    "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DCMAKE_CXX_FLAGS=${flags}" "-DAPPLICATION_QT=${QT}")
+    "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" "-DAPPLICATION_QT=${QT}")
 refused("set KESTROVA_CORE to the CMake target or the absolute path of the core library" ${example} -B "${WORK_DIR}/lost")
 run(${example} -B "${WORK_DIR}/example" "-DKESTROVA_CORE=${core}")
 run("${CMAKE_COMMAND}" --build "${WORK_DIR}/example")
@@ -100,9 +96,8 @@ set(ENV{PKG_CONFIG_PATH} "${pcDir}")
 set(ENV{LD_LIBRARY_PATH} "${libraryDir}:${coreDir}")
 run(pkg-config --cflags --libs "kestrovaDevicelore${suffix} >= 1.4")
 separate_arguments(pcFlags UNIX_COMMAND "${output}")
-separate_arguments(flags UNIX_COMMAND "${flags}")
 file(MAKE_DIRECTORY "${WORK_DIR}/pcExample")
-run("${CXX_COMPILER}" -std=c++17 ${flags} -o "${WORK_DIR}/pcExample/devicesBesideMe"
+run("${CXX_COMPILER}" -std=c++17 -o "${WORK_DIR}/pcExample/devicesBesideMe"
     "${SOURCE_DIR}/examples/devicesBesideMe.cpp" ${pcFlags} "${core}")
 check_example("${WORK_DIR}/pcExample/devicesBesideMe")
 if(EXISTS "${prefix}/bin/devicelore")
