@@ -67,8 +67,12 @@ public:
     {
         int const opened = sqlite3_open_v2(name.toUtf8().constData(), &handle,
                                            SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI, nullptr);
-        setOpen(opened == SQLITE_OK);
-        return opened == SQLITE_OK;
+        if (opened != SQLITE_OK) {
+            close(); // SQLite hands out a connection then, too
+            return false;
+        }
+        setOpen(true);
+        return true;
     }
 
     void close() override
