@@ -92,11 +92,12 @@ bool tellOnce()
 {
     QString const found = unusable();
     if (!found.isEmpty())
-        QMessageLogger().critical("kestrovaCore can open no database. Found: %s. Needed: SQLite 3.38 or "
-                                  "newer, and the driver QSQLITE "
-                                  "of Qt %d on the same shared library of it. On Debian: apt-get install "
-                                  "libqt%dsql%d-sqlite libsqlite3-0",
-                                  qPrintable(found), QT_VERSION_MAJOR, QT_VERSION_MAJOR, QT_VERSION_MAJOR);
+        QMessageLogger(nullptr, 0, nullptr)
+            .critical("kestrovaCore can open no database. Found: %s. Needed: SQLite 3.38 or "
+                      "newer, and the driver QSQLITE "
+                      "of Qt %d on the same shared library of it. On Debian: apt-get install "
+                      "libqt%dsql%d-sqlite libsqlite3-0",
+                      qPrintable(found), QT_VERSION_MAJOR, QT_VERSION_MAJOR, QT_VERSION_MAJOR);
     return true;
 }
 

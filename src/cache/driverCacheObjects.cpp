@@ -93,8 +93,9 @@ bool CDriverCache::addObjectItem(CDriverCacheKey * key, CDriverCacheObjectItem *
 bool CDriverCache::createDriverCacheObjectItem(CDriverCacheObjectItem *& item, CDriverCacheKey * key)
 {
     if (key == nullptr) {
-        QMessageLogger().warning("Invalid param 'key' (nullptr) in %s",
-                                 "kestrova::Morvel::Devicelore::CDriverCache::createDriverCacheObjectItem");
+        QMessageLogger(nullptr, 0, nullptr)
+            .warning("Invalid param 'key' (nullptr) in %s",
+                     "kestrova::Morvel::Devicelore::CDriverCache::createDriverCacheObjectItem");
         return false;
     }
     CObjectDef definition;

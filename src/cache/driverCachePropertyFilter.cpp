@@ -19,8 +19,9 @@ QSqlQuery filterRows(QSqlDatabase const & db, bool hasAccess)
                       : QStringLiteral("SELECT FilterName,Expression FROM DevicePropertyFilter"));
     if (!executeWhole(rows)) { // the error is that of executing, also where preparing has failed before
         QSqlError const error = rows.lastError();
-        QMessageLogger().critical("Error %s (type: %d) accessing project database in %s %d",
-                                  error.text().toUtf8().constData(), int(error.type()), __FILE__, __LINE__);
+        QMessageLogger(nullptr, 0, nullptr)
+            .critical("Error %s (type: %d) accessing project database in %s %d",
+                      error.text().toUtf8().constData(), int(error.type()), __FILE__, __LINE__);
     }
     return rows;
 }

@@ -40,8 +40,9 @@ SpeakerDspData readSpeakerData(CDeviceGuid const & guid, unsigned short speakerI
     rows.exec();
     if (rows.next())
         return dataOfRow(rows, guid, speakerId);
-    QMessageLogger().warning("Entry not found for device guid = %s and speaker id = %d",
-                             guidText.toLatin1().constData(), int(speakerId));
+    QMessageLogger(nullptr, 0, nullptr)
+        .warning("Entry not found for device guid = %s and speaker id = %d", guidText.toLatin1().constData(),
+                 int(speakerId));
     return SpeakerDspData();
 }
 

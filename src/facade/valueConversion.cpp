@@ -97,7 +97,7 @@ bool convertRange(CObjectDef & object, Convert convert)
 CDevicelore::ValidationState validateToggle(QVariant & value)
 {
     if (!value.canConvert<int>()) {
-        QMessageLogger().warning("Invalid value or type");
+        QMessageLogger(nullptr, 0, nullptr).warning("Invalid value or type");
         return CDevicelore::Invalid;
     }
     int const number = qt5::toInt(value);

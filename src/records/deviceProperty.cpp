@@ -228,7 +228,8 @@ void CDeviceProperty::setPropertyType(PropertyType type)
 CDeviceProperty::SimpleControlType CDeviceProperty::simpleControlType() const
 {
     if (!validMembers_.testFlag(ValidSimpleControlType))
-        QMessageLogger().warning("Accessing non valid member 'simpleControlType' of CDeviceProperty!");
+        QMessageLogger(nullptr, 0, nullptr)
+            .warning("Accessing non valid member 'simpleControlType' of CDeviceProperty!");
     return simpleControlType_;
 }
 

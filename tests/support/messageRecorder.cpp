@@ -36,7 +36,8 @@ QString sourceOf(QMessageLogContext const & context)
 
 void record(QtMsgType type, QMessageLogContext const & context, QString const & text)
 {
-    recorded.append(levelName(type) + QStringLiteral(": ") + text);
+    QString const flaw = context.category ? QString() : QStringLiteral(" without a category");
+    recorded.append(levelName(type) + flaw + QStringLiteral(": ") + text);
     recordedSources.append(sourceOf(context));
 }
 

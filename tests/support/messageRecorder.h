@@ -13,7 +13,7 @@ public:
     MessageRecorder(MessageRecorder const &) = delete;
     MessageRecorder & operator=(MessageRecorder const &) = delete;
 
-    /// Each message as "warning: text", with the level in front.
+    /// Each message as "warning: text", with its level, or "warning without a category: text" without one.
     QStringList messages() const;
 
     /// Where each message says that it was logged, as "file:line function"; empty when it does not say.
