@@ -207,15 +207,15 @@ public:
     ///
     /// \a value becomes an int for "d", "u" and "x" in all their sizes, signed even for "u"; a float for "f";
     /// a text for "s"; an unsigned or signed integer by size for "b" and "H". It stays as it is for "c", and
-    /// on failure, but for "f", which leaves 0. Only the first 255 characters of the text count. Results: 0,
-    /// -3, -6, -10, -11.
+    /// on failure, but for "f", which stores what the reading of a float left: 0, or infinity for "1e39".
+    /// Only the first 255 characters of the text count, but for "f" all. Results: 0, -3, -6, -10, -11.
     static ConvertResult strToPara(QString const & text, QString const & format, QVariant & value);
 
     /// The digits behind the last "." of the whole text; 0 without. It is no parser: a "." in the unit counts
     /// as well.
     static int decimals(QString const & format);
 
-    /// The unit of a format that starts with "%"; empty without. The byte 0x81 stands for "Ohm".
+    /// What stands behind the conversion, which need not start with "%"; the byte 0x81 stands for "Ohm".
     static QString unit(QString const & format);
 
 private:

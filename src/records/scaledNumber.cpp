@@ -18,9 +18,11 @@ constexpr double powersOfTen[8] = {1.0, 10.0, 100.0, 1000.0, 10000.0, 100000.0, 
 /// By flags: none, "+", "0", both.
 constexpr char const * realFormats[4] = {"%*.*f", "%+*.*f", "%0*.*f", "%+0*.*f"};
 
-// Of a field 255 bytes are kept. A width or precision far above shows nothing more, but would keep printf
-// busy: for seconds, if a format asks for two thousand million columns.
-constexpr int printfLimit = 2000;
+// Of a field 255 bytes are kept. Far more columns or decimals show nothing more, but would keep printf busy:
+// for seconds, if a format asks for two thousand million. A double has up to 309 digits before the point, so
+// that these columns always hold the blanks or zeros in front of this many decimals.
+constexpr int largestPrecision = 1000;
+constexpr int largestWidth = 2000;
 
 // Below 2^52 the division's error is less than half a unit of the last decimal, so that its result prints as
 // the digits of the integer. From there on it does not always: 5629499534213123 with one decimal prints as
@@ -74,8 +76,9 @@ char decimalPoint()
 void formatReal(double value, FormatSpec const & spec, FieldText & text)
 {
     char printed[FieldText::capacity + 1];
-    int const width = std::min(spec.width, printfLimit);
-    int const precision = std::min(spec.precision, printfLimit);
+    int const precision = std::min(spec.precision, largestPrecision);
+    int const decimalsLeftOut = spec.precision - precision;
+    int const width = std::clamp(spec.width - decimalsLeftOut, 0, largestWidth);
     int const length =
         std::snprintf(printed, sizeof(printed), realFormats[spec.flags & 3], width, precision, value);
     text.append(printed, static_cast<std::size_t>(std::clamp(length, 0, FieldText::capacity)));

@@ -375,6 +375,9 @@ TEST_F(ParaToStr, SurvivesWidthsAndPrecisionsBeyondAnyField)
     EXPECT_EQ(print(QStringLiteral("%1.2000d"), twelve, 4), (Printed{0, "12." + std::string(252, '0'), 255}));
     EXPECT_EQ(print(QStringLiteral("%2000.2000d"), twelve, 4),
               (Printed{0, "12." + std::string(252, '0'), 255}));
+    EXPECT_EQ(print(QStringLiteral("%2704.2504d"), twelve, 4),
+              (Printed{0, blanks(2704 - 2507) + "12." + std::string(255 - 200, '0'), 255}));
+    EXPECT_EQ(print(QStringLiteral("%3000.2504d"), twelve, 4), blank);
 }
 
 TEST_F(ParaToStr, FailsWithTheTextLeftAlone)
