@@ -4,6 +4,9 @@
 
 #include <sqlite3.h>
 
+#include <array>
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace kestrova::sqlcipher {
@@ -20,22 +23,29 @@ public:
     /// Opens the file and checks its first page. \a name and \a flags are those that SQLite gave to xOpen.
     int open(char const * name, int flags);
 
-    /// Reads any range of the plain database.
+    /// Reads any range of the plain database, as it is in the file now. A header that asks for a write-ahead
+    /// log asks for none when it gets here.
     int read(unsigned char * buffer, int count, qint64 offset);
 
     int size(qint64 & bytes);
 
 private:
+    using PageBytes = std::array<unsigned char, largestPageSize>;
+
+    struct Page {
+        PageBytes stored;
+        PageBytes plain;
+    };
+
     int readStored(unsigned char * buffer, int count, qint64 offset);
-    int loadPage(quint32 number);
+    int readDecrypted(unsigned char * buffer, int count, qint64 offset);
+    int readPage(quint32 number, PageBytes & plain);
 
     sqlite3_vfs & realVfs;
     std::vector<std::max_align_t> handleMemory;
     sqlite3_file & handle;            // lies in handleMemory
     std::unique_ptr<PageCodec> codec; // null for a plain file
-    std::array<unsigned char, largestPageSize> storedPage;
-    std::array<unsigned char, largestPageSize> plainPage; // the page loadedPage
-    quint32 loadedPage = 0;                               // 0: none
+    std::optional<Page> firstPage;    // as it was read last
 };
 
 } // namespace kestrova::sqlcipher

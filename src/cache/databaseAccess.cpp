@@ -80,8 +80,11 @@ QSqlQuery preparedQuery(QSqlDatabase const & db, QString const & statement)
 
 QStringList tableColumns(QSqlDatabase const & db, QString const & table)
 {
+    QString const statement = QStringLiteral("pragma table_info(%1)").arg(table);
     QStringList columns;
-    QSqlQuery rows = queryRows(db, QStringLiteral("pragma table_info(%1)").arg(table));
+    QSqlQuery rows = queryRows(db, statement);
+    if (rows.lastError().isValid()) // a disk that fails once must not decide on what is answered from then on
+        rows = queryRows(db, statement);
     while (rows.next())
         columns.append(qt5::toText(rows.value(1)));
     return columns;

@@ -100,6 +100,7 @@ void CDriverCache::closeDatabases()
 
 void CDriverCache::clear()
 {
+    objectQueries.clear(); // the table may have other columns by now
     guidConnections.clear();
     objectItems->clear();
     guidItems->clear();

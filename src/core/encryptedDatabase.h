@@ -19,7 +19,7 @@ namespace kestrova::Solvane {
 /// too much memory, fails.
 ///
 /// Key and cipher lie inside this function. Nothing is written: no lock, no journal, no temporary file. The
-/// file must not change while it is open. No message is logged about a file; only when Qt cannot open any,
+/// file must not change while a statement runs. No message is logged about a file; only when Qt opens none,
 /// for want of its SQLite driver or of the library that this one uses, the first attempt logs what to
 /// install.
 KESTROVA_CORE_EXPORT bool OpenEncryptedSqliteDatabase(QString const & filePath,

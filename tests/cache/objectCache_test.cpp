@@ -139,6 +139,30 @@ TEST_F(ObjectCache, AMissStandsUntilACloseIsUndoneByAClear)
     EXPECT_NE(find("Gain"), nullptr);
 }
 
+TEST_F(ObjectCache, ShowsAChangeOfTheDatabaseOnlyAfterAReload)
+{
+    auto const readAll = [&] {
+        CDriverCacheObjectItem * const gain = find("Gain");
+        QStringList models = cache.deviceModels();
+        models.sort();
+        return QStringLiteral("%1 %2 %3 %4")
+            .arg(gain ? gain->maxValue() : -1)
+            .arg(find("Late") != nullptr)
+            .arg(cache.filterName(device, &speaker12, 1), models.join(QLatin1Char(' ')));
+    };
+    QString const before = QStringLiteral("10 0 Shelf Talvo");
+    EXPECT_EQ(readAll(), before);
+    folder.add(QStringLiteral("a.db3"),
+               QStringLiteral("UPDATE Objects SET Max = 99 WHERE Name = 'Gain';"
+                              "INSERT INTO Objects VALUES (20, 'Late', 3, 1, 0, 1, 1, '%d', 3, 11);"
+                              "INSERT INTO guidsandobjects VALUES (20, 'C7000005');"
+                              "UPDATE Filters SET DisplayNameShort = 'Peak';"
+                              "INSERT INTO Guids VALUES ('C7000007', 'Zorin', '', 1);"));
+    EXPECT_EQ(readAll(), before);
+    cache.setGuidSupportedLevel(2);
+    EXPECT_EQ(readAll(), QStringLiteral("99 1 Peak Hesko Talvo Zorin"));
+}
+
 TEST_F(ObjectCache, TakesTheGuidAsATextToo)
 {
     CDriverCacheObjectItem * item = nullptr;
