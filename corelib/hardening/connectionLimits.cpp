@@ -15,7 +15,7 @@ struct Limit {
 // They hold for the texts of the schema too: a table or view beyond them makes the whole database unreadable.
 constexpr std::array<Limit, 12> limits = {{
     {SQLITE_LIMIT_LENGTH, 16 * 1024 * 1024}, // bytes of a value, and of a row: a DSP blob is far smaller
-    {SQLITE_LIMIT_SQL_LENGTH, 256 * 1024},   // bytes: a group that names some thousand objects
+    {SQLITE_LIMIT_SQL_LENGTH, 64 * 1024},    // bytes: a group that names a thousand objects
     {SQLITE_LIMIT_COLUMN, 1000},             // of a table, a result, an index
     {SQLITE_LIMIT_EXPR_DEPTH, 500},          // such as so many names joined by OR
     {SQLITE_LIMIT_COMPOUND_SELECT, 100},     // SELECTs joined by UNION

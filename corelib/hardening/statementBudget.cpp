@@ -1,5 +1,6 @@
 #include "hardening/statementBudget.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace kestrova::hardening {
@@ -10,7 +11,14 @@ using Clock = std::chrono::steady_clock;
 
 /// So seldom that it costs nothing measurable, and so often that a statement of slow steps is stopped in
 /// time.
-constexpr int stepsPerCheck = 1000;
+constexpr int stepsPerCheck = 100;
+
+/// A database that has brought along so many statements without an end may have a million of them.
+constexpr int overrunsForgiven = 3;
+constexpr sqlite3_int64 stepsAfterwards = 10'000;
+
+/// Larger files are not read whole.
+constexpr sqlite3_int64 largestPageCache = sqlite3_int64(256) * 1024 * 1024;
 
 sqlite3_int64 fileSize(sqlite3 * database)
 {
@@ -28,7 +36,7 @@ public:
     Watch(sqlite3 * connection, StatementBudget const & statementBudget)
         : database(connection)
         , budget(statementBudget)
-        , pageCache(fileSize(connection))
+        , pageCache(std::min(fileSize(connection), largestPageCache))
     {}
 
     bool begin()
@@ -51,7 +59,14 @@ private:
         return 0;
     }
 
-    static int onProgress(void * watch) { return static_cast<Watch *>(watch)->isExceeded() ? 1 : 0; }
+    static int onProgress(void * context)
+    {
+        auto * const watch = static_cast<Watch *>(context);
+        if (!watch->isExceeded())
+            return 0;
+        watch->noteOverrun();
+        return 1;
+    }
 
     /// Statements that take turns share one account, which the last one of them opened.
     void statementBegins(sqlite3_stmt * statement, void const * text)
@@ -66,8 +81,16 @@ private:
     {
         for (int column = 0; column < sqlite3_column_count(row); ++column)
             given += bytesOf(row, column);
-        if (given > budget.memory)
+        if (given > budget.memory) {
+            noteOverrun();
             sqlite3_interrupt(database); // the next row fails
+        }
+    }
+
+    void noteOverrun()
+    {
+        if (++overruns == overrunsForgiven)
+            budget.steps = std::min(budget.steps, stepsAfterwards);
     }
 
     static sqlite3_int64 bytesOf(sqlite3_stmt * row, int column)
@@ -105,6 +128,7 @@ private:
     sqlite3 * database;
     StatementBudget budget;
     sqlite3_int64 pageCache;
+    int overruns = 0;
     // Of the statement that began last:
     sqlite3_int64 checks = 0;
     sqlite3_int64 given = 0; ///< bytes in its rows
@@ -113,6 +137,13 @@ private:
 };
 
 } // namespace
+
+void holdToOpening(sqlite3 * database)
+{
+    constexpr int steps = 100'000;
+    sqlite3_progress_handler(
+        database, steps, [](void *) { return 1; }, nullptr);
+}
 
 bool holdToBudget(sqlite3 * database, StatementBudget const & budget)
 {

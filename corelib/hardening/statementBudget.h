@@ -6,7 +6,8 @@
 
 namespace kestrova::hardening {
 
-/// What one run of a statement may take. A statement that goes beyond is interrupted and fails.
+/// What one run of a statement may take, without its preparation. A statement that goes beyond is interrupted
+/// and fails. After three of them, each further one on the connection may take a few thousand steps.
 struct StatementBudget {
     /// Of SQLite's virtual machine. A row of a million takes some twenty; a hundred million are done in a few
     /// seconds.
@@ -18,6 +19,11 @@ struct StatementBudget {
     /// collects them.
     sqlite3_int64 memory = sqlite3_int64(512) * 1024 * 1024;
 };
+
+/// Lets a statement on \a database, and the reading of its schema, take a hundred thousand steps at most:
+/// enough for a schema of thousands of tables. For the time until holdToBudget(), whose budget is meant for
+/// the rows.
+void holdToOpening(sqlite3 * database);
 
 /// Holds each statement that begins on \a database to the budget, until the connection is closed. Takes
 /// SQLite's progress and trace handlers of the connection. False when SQLite refuses.

@@ -12,8 +12,9 @@ namespace kestrova::Solvane {
 /// databaseName() is \a filePath. A connection that already had the name has been replaced.
 ///
 /// After false there is no connection of that name: the file is missing, unreadable, no regular file, empty,
-/// no database, encrypted with another key, damaged in its first page or its schema, or cut short. A page
-/// damaged further behind makes the statement that touches it fail.
+/// no database, encrypted with another key, damaged in its first page or its schema, with views of more than
+/// 32 KiB, cut short, or its absolute path is longer than the 512 bytes of SQLite. A page damaged further
+/// behind makes the statement that touches it fail.
 ///
 /// Statements on the connection can only read. One that would do else, or takes too many steps, too long or
 /// too much memory, fails.

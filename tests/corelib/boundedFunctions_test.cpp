@@ -47,6 +47,15 @@ TEST_F(BoundedFunctions, AnswerAsSqlitesOwn)
         {"ltrim('xyxax', 'xy')", "ax"},
         {"rtrim('axüü', 'üx')", "a"},
         {"trim('  a  ')", "a"},
+        {"'Gain' LIKE 'g_I%'", "1"},
+        {"'Gain' NOT LIKE 'g_I'", "1"},
+        {"'a_b' LIKE 'a!_b' ESCAPE '!'", "1"},
+        {"'axb' LIKE 'a!_b' ESCAPE '!'", "0"},
+        {"'Ä' LIKE 'ä'", "0"},
+        {"12 LIKE '1%'", "1"},
+        {"(NULL LIKE 'a') IS NULL", "1"},
+        {"'Gain' GLOB 'G[a-c]*'", "1"},
+        {"'Gain' GLOB 'g*'", "0"},
         {R"(json_patch('{"a":1,"b":2}', '{"a":null}'))", R"({"b":2})"},
     };
     openSample();
@@ -54,8 +63,26 @@ TEST_F(BoundedFunctions, AnswerAsSqlitesOwn)
         EXPECT_EQ(ask(QStringLiteral("SELECT ") + QString::fromUtf8(row.expression)), row.answer)
             << row.expression;
     EXPECT_EQ(ask(QStringLiteral("SELECT json_patch('{', '{}')")), "error");
+    EXPECT_EQ(ask(QStringLiteral("SELECT 'a' LIKE 'b' ESCAPE 'cd'")), "error");
+    EXPECT_EQ(ask(QStringLiteral("SELECT 'a' LIKE '%1'").arg(QString(200, QLatin1Char('a')))), "0");
+    EXPECT_EQ(ask(QStringLiteral("SELECT 'a' LIKE '%1'").arg(QString(201, QLatin1Char('a')))), "error");
     EXPECT_EQ(ask(QStringLiteral("SELECT trim('a')")), "a");
     EXPECT_EQ(ask(QStringLiteral("SELECT trim()")), "error");
+}
+
+TEST_F(BoundedFunctions, CountRowsAsSqlitesOwn)
+{
+    openSample();
+    EXPECT_EQ(ask(QStringLiteral("SELECT count(*), count() FROM Names")), "3000|3000");
+    EXPECT_EQ(ask(QStringLiteral("SELECT count(*) FROM Names WHERE 0")), "0");
+    EXPECT_EQ(ask(QStringLiteral("SELECT typeof(count(*)) FROM Names WHERE 0")), "integer");
+    EXPECT_EQ(ask(QStringLiteral("SELECT id % 2, count(*) FROM Names WHERE id < 6 GROUP BY 1")), "0|2\n1|3");
+    EXPECT_EQ(ask(QStringLiteral("SELECT count(*) FILTER (WHERE id < 6) FROM Names")), "5");
+    EXPECT_EQ(
+        ask(QStringLiteral("SELECT count(*) OVER (ORDER BY id ROWS BETWEEN 1 PRECEDING AND 1 FOLLOWING) "
+                           "FROM Names WHERE id < 5")),
+        "2\n3\n3\n2");
+    EXPECT_EQ(ask(QStringLiteral("SELECT count(nullif(id, 7)) FROM Names")), "2999");
 }
 
 TEST_F(BoundedFunctions, CanBeCalledByViews)
@@ -73,6 +100,9 @@ TEST_F(BoundedFunctions, FailWhereTheyWouldTakeHours)
         "trim(printf('%.*c', 8000000, 'a'), printf('%.*c', 4000000, 'b') || 'a')",
         "ltrim(printf('%.*c', 8000000, 'a'), printf('%.*c', 4000000, 'b') || 'a')",
         "rtrim(printf('%.*c', 8000000, 'a'), printf('%.*c', 4000000, 'b') || 'a')",
+        "printf('%.*c', 8000000, 'a') LIKE printf('%%%.*c%%', 190, 'a') || 'b'",
+        "like(printf('%.*c', 190, 'a'), printf('%.*c', 8000000, 'a'), '!')",
+        "printf('%.*c', 8000000, 'a') GLOB printf('*%.*c*', 190, 'a') || 'b'",
         "json_patch(printf('%.*c', 8000000, '['), printf('%.*c', 4000000, '['))",
     };
     openSample();

@@ -30,7 +30,7 @@ TEST_F(ConnectionLimits, AreSet)
 {
     static constexpr LimitRow rows[] = {
         {"length", SQLITE_LIMIT_LENGTH, 16777216},
-        {"length of statements", SQLITE_LIMIT_SQL_LENGTH, 262144},
+        {"length of statements", SQLITE_LIMIT_SQL_LENGTH, 65536},
         {"columns", SQLITE_LIMIT_COLUMN, 1000},
         {"depth of expressions", SQLITE_LIMIT_EXPR_DEPTH, 500},
         {"parts of a compound", SQLITE_LIMIT_COMPOUND_SELECT, 100},
@@ -87,10 +87,10 @@ TEST_F(ConnectionLimits, LetThroughWhatIsWithinThemAndFailTheStatementBeyond)
                         "SELECT max(length(x)) FROM t"),
          QStringLiteral("WITH t (x, i) AS (SELECT 'a', 0 UNION ALL SELECT x || x, i + 1 FROM t WHERE i < 25) "
                         "SELECT max(length(x)) FROM t")},
-        {"a statement", QStringLiteral("SELECT 1") + QString(262136, QLatin1Char(' ')),
-         QStringLiteral("SELECT 1") + QString(262137, QLatin1Char(' '))},
-        {"names in a list", QStringLiteral("SELECT 1 IN (%1)").arg(repeated(6000, "'ChStatus_Gain'", ",")),
-         QStringLiteral("SELECT 1 IN (%1)").arg(repeated(30000, "'ChStatus_Gain'", ","))},
+        {"a statement", QStringLiteral("SELECT 1") + QString(65528, QLatin1Char(' ')),
+         QStringLiteral("SELECT 1") + QString(65529, QLatin1Char(' '))},
+        {"names in a list", QStringLiteral("SELECT 1 IN (%1)").arg(repeated(1500, "'ChStatus_Gain'", ",")),
+         QStringLiteral("SELECT 1 IN (%1)").arg(repeated(5000, "'ChStatus_Gain'", ","))},
         {"names joined by OR", QStringLiteral("SELECT %1").arg(repeated(498, "1", " OR ")),
          QStringLiteral("SELECT %1").arg(repeated(502, "1", " OR "))},
         {"columns", QStringLiteral("SELECT %1").arg(repeated(1000, "1", ",")),

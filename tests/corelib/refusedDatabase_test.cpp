@@ -1,9 +1,12 @@
 #include "connectionFixture.h"
 #include "folderSnapshot.h"
+#include "repeatedPages.h"
 #include "sampleDatabase.h"
 
 #include "sqlcipher/bytes.h"
+#include "sqlcipher/databaseFile.h"
 #include "sqlcipher/pageCodec.h"
+#include "support/sqlFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -130,6 +133,42 @@ INSTANTIATE_TEST_SUITE_P(
                       relabelled("Version3OfAnotherPageSize", sqlcipher::version3, 16, 0x02),
                       relabelled("Version3WithTheReserveOfVersion4", sqlcipher::version3, 20, 80)),
     [](auto const & row) { return row.param.name; });
+
+/// A chain of views, each of which reads the one before.
+QString viewsWithinViews(int count)
+{
+    QString sql = QStringLiteral("CREATE TABLE v0 (a); INSERT INTO v0 VALUES (7);");
+    for (int i = 1; i <= count; ++i)
+        sql += QStringLiteral("CREATE VIEW v%1 AS SELECT * FROM v%2;").arg(i).arg(i - 1);
+    return sql;
+}
+
+RefusedFile encrypted(char const * name, std::function<void(QString const & path)> const & makePlain)
+{
+    return {name, [makePlain](QString const & path) {
+                QString const plain = path + QStringLiteral(".plain");
+                makePlain(plain);
+                sqlcipher::encryptDatabase(plain, path, sqlcipher::version4, sqlcipher::databaseKey);
+                QFile::remove(plain);
+            }};
+}
+
+// SQLite would overflow its stack, or read for years.
+INSTANTIATE_TEST_SUITE_P(HostileSchema, RefusedDatabase,
+                         ::testing::Values(encrypted("ViewsWithinViews",
+                                                     [](QString const & path) {
+                                                         makeSqlFile(path, viewsWithinViews(2000));
+                                                     }),
+                                           RefusedFile{"EndlessSchema", makeEndlessSchema}),
+                         [](auto const & row) { return row.param.name; });
+
+TEST_F(ConnectionFixture, OpensADatabaseOfSomeHundredViewsWithinViews)
+{
+    QString const file = path(QStringLiteral("views.db3"));
+    encrypted("", [](QString const & plain) { makeSqlFile(plain, viewsWithinViews(600)); }).make(file);
+    ASSERT_TRUE(open(file));
+    EXPECT_EQ(ask(QStringLiteral("SELECT * FROM v600")), "7");
+}
 
 /// The sample cut to \a size bytes; negative sizes count from the end.
 RefusedFile cut(char const * name, sqlcipher::PageFormat const & format, int size)

@@ -1,12 +1,18 @@
 #include "hardening/statementBudget.h"
 
 #include "connectionFixture.h"
+#include "hardening/boundedFunctions.h"
+#include "repeatedPages.h"
 #include "sampleDatabase.h"
+#include "support/sqlFile.h"
 
+#include <QFile>
 #include <QSqlDatabase>
 
+#include <functional>
 #include <limits>
 #include <memory>
+#include <thread>
 
 namespace kestrova::test {
 
@@ -114,15 +120,50 @@ TEST(StatementBudget, HoldsForAStatementThatBeginsWithAComment)
     EXPECT_EQ(database.run(std::string("-- a comment\n") + endlessCount), SQLITE_INTERRUPT);
 }
 
+/// Adds a function tick() to SQL that does \a tick.
+void addTick(Database const & database, std::function<void()> & tick)
+{
+    auto const call = [](sqlite3_context * context, int, sqlite3_value **) {
+        (*static_cast<std::function<void()> *>(sqlite3_user_data(context)))();
+        sqlite3_result_int(context, 1);
+    };
+    EXPECT_EQ(sqlite3_create_function(database.handle, "tick", 0, SQLITE_UTF8, &tick, call, nullptr, nullptr),
+              SQLITE_OK);
+}
+
+constexpr char endlessTicks[] =
+    "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) SELECT sum(tick()) FROM c";
+
 TEST(StatementBudget, EndsFewStepsThatTakeLong)
 {
     Database const database({noEnd, std::chrono::milliseconds(20), noEnd});
-    auto const start = std::chrono::steady_clock::now();
-    EXPECT_EQ(database.run("WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c) "
-                           "SELECT sum(length(hex(zeroblob(100000)))) FROM c"),
-              SQLITE_INTERRUPT);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::minutes(1));
+    int ticks = 0;
+    std::function<void()> slow = [&ticks] {
+        ++ticks;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    };
+    addTick(database, slow);
+    EXPECT_EQ(database.run(endlessTicks), SQLITE_INTERRUPT);
+    EXPECT_LT(ticks, 50);
     EXPECT_EQ(database.run("SELECT 1"), SQLITE_OK);
+}
+
+TEST(StatementBudget, ShrinksAfterThreeStatementsWithoutAnEnd)
+{
+    Database const database({1'000'000, anHour, noEnd});
+    int ticks = 0;
+    std::function<void()> count = [&ticks] { ++ticks; };
+    addTick(database, count);
+    auto const ticksToTheEnd = [&] {
+        ticks = 0;
+        EXPECT_EQ(database.run(endlessTicks), SQLITE_INTERRUPT);
+        return ticks;
+    };
+    for (int i = 0; i < 3; ++i)
+        EXPECT_GT(ticksToTheEnd(), 20'000) << i;
+    for (int i = 0; i < 3; ++i)
+        EXPECT_LT(ticksToTheEnd(), 1'000) << i;
+    EXPECT_EQ(database.run(countTo(300)), SQLITE_OK);
 }
 
 TEST(StatementBudget, EndsWhatTakesAllMemory)
@@ -165,6 +206,36 @@ TEST(StatementBudget, OutlivesAnAttemptToCloseThatSqliteRefuses)
     for (int i = 0; i < 10'000; ++i)
         ASSERT_EQ(sqlite3_step(unfinished), SQLITE_ROW);
     sqlite3_finalize(unfinished);
+}
+
+TEST(StatementBudget, CountsAFileWithAHoleOnlyInPart)
+{
+    QTemporaryDir const folder;
+    QString const file = folder.filePath(QStringLiteral("hole.sqlite"));
+    makeSqlFile(file, QStringLiteral("CREATE TABLE T (a);"));
+    ASSERT_TRUE(QFile::resize(file, qint64(100) * 1024 * 1024 * 1024));
+    sqlite3 * database = nullptr;
+    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &database), SQLITE_OK);
+    ASSERT_TRUE(hardening::holdToBudget(database, {noEnd, anHour, 67'108'864}));
+    char const sort[] = "PRAGMA temp_store = MEMORY;" // 1 GB
+                        "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < 10000)"
+                        " SELECT i, zeroblob(100000) FROM c ORDER BY i % 7";
+    EXPECT_EQ(sqlite3_exec(database, sort, nullptr, nullptr, nullptr), SQLITE_INTERRUPT);
+    sqlite3_close(database);
+}
+
+TEST(StatementBudget, EndsACountOfARepeatedPage)
+{
+    QTemporaryDir const folder;
+    QString const file = folder.filePath(QStringLiteral("endless.sqlite"));
+    makeEndlessTable(file);
+    sqlite3 * database = nullptr;
+    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &database), SQLITE_OK);
+    ASSERT_TRUE(hardening::boundFunctions(database));
+    ASSERT_TRUE(hardening::holdToBudget(database, {1'000'000, anHour, noEnd}));
+    EXPECT_EQ(sqlite3_exec(database, "SELECT max(a) FROM T", nullptr, nullptr, nullptr), SQLITE_INTERRUPT);
+    EXPECT_EQ(sqlite3_exec(database, "SELECT count(*) FROM T", nullptr, nullptr, nullptr), SQLITE_INTERRUPT);
+    sqlite3_close(database);
 }
 
 class BudgetOfAConnection : public ConnectionFixture {
