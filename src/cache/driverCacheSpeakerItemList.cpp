@@ -4,6 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <tuple>
+#include <utility>
 
 namespace kestrova::Morvel::Devicelore {
 
@@ -12,6 +15,25 @@ namespace {
 unsigned char keyOf(unsigned short speakerId)
 {
     return static_cast<unsigned char>(speakerId & 0xFFU);
+}
+
+/// All that CSpeakerDef's == compares.
+auto contentOf(CSpeakerDef const & speaker)
+{
+    CSpeakerClass speakerClass;
+    speaker.speakerClass(speakerClass);
+    return std::make_tuple(speaker.speakerId(), speaker.rib(), speaker.sortOrder(),
+                           speaker.cablefitMaxCount(), speaker.flags(), speakerClass.classNumber,
+                           speakerClass.ways, speaker.name(), speaker.displayNameShort(), speakerClass.names);
+}
+
+// One or the other: the lower bound starts at 0 and nothing is below it.
+void widenBounds(unsigned short & lower, unsigned short & upper, unsigned short id)
+{
+    if (id < lower)
+        lower = id;
+    else if (id > upper)
+        upper = id;
 }
 
 /// Which type a speaker of a class is, and up to which output mode it can be used, counted from `firstMode`.
@@ -93,12 +115,24 @@ bool CDriverCacheSpeakerItemList::addSpeakerItem(CSpeakerDef * speaker)
             return false;
     }
     speakerItems.insert(keyOf(id), speaker);
-    // One or the other: the lower bound starts at 0 and nothing is below it.
-    if (id < minSpeakerId_)
-        minSpeakerId_ = id;
-    else if (id > maxSpeakerId_)
-        maxSpeakerId_ = id;
+    widenBounds(minSpeakerId_, maxSpeakerId_, id);
     return true;
+}
+
+void CDriverCacheSpeakerItemList::addSpeakerItems(QList<CSpeakerDef> const & speakers)
+{
+    // In order, not hashed: no database can choose its speakers so that this becomes slow. And not kept: who
+    // has a definition may change it, and who derives from this class may change speakerItems.
+    std::set<decltype(contentOf(CSpeakerDef()))> known;
+    for (CSpeakerDef const * speaker : std::as_const(speakerItems))
+        known.insert(contentOf(*speaker));
+    for (CSpeakerDef const & speaker : speakers) {
+        if (!known.insert(contentOf(speaker)).second)
+            continue;
+        unsigned short const id = speaker.speakerId();
+        speakerItems.insert(keyOf(id), new CSpeakerDef(speaker));
+        widenBounds(minSpeakerId_, maxSpeakerId_, id);
+    }
 }
 
 void CDriverCacheSpeakerItemList::addToSupportedList(CDeviceGuid const & guid, unsigned short speakerId)

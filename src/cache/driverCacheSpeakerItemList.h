@@ -46,6 +46,9 @@ public:
     /// Takes the definition over and gives true, unless an equal one is there under its low byte.
     bool addSpeakerItem(CSpeakerDef * speaker);
 
+    /// Adds copies of those that are not there yet, in order, without a walk through all others for each.
+    void addSpeakerItems(QList<CSpeakerDef> const & speakers);
+
     /// Remembers the pair, once.
     void addToSupportedList(CDeviceGuid const & guid, unsigned short speakerId);
     void addToNotSupportedList(CDeviceGuid const & guid, unsigned short speakerId);

@@ -7,24 +7,23 @@
 
 #include <QVariant>
 
-#include <memory>
 #include <utility>
 
 namespace kestrova::Morvel::Devicelore {
 
 namespace {
 
-std::unique_ptr<CSpeakerDef> speakerOfRow(QSqlQuery const & row, CSpeakerClass const & speakerClass)
+CSpeakerDef speakerOfRow(QSqlQuery const & row, CSpeakerClass const & speakerClass)
 {
-    auto speaker = std::make_unique<CSpeakerDef>();
-    speaker->setSpeakerId(static_cast<unsigned short>(qt5::toInt(row.value(0))));
-    speaker->setName(qt5::toText(row.value(1)));
-    speaker->setSpeakerClass(speakerClass);
-    speaker->setRib(qt5::toInt(row.value(3)));
-    speaker->setDisplayNameShort(qt5::toText(row.value(4)));
-    speaker->setSortOrder(qt5::toInt(row.value(5)));
-    speaker->setCablefitMaxCount(qt5::toInt(row.value(6)));
-    speaker->setIsWFSetup(qt5::toInt(row.value(7)) != 0);
+    CSpeakerDef speaker;
+    speaker.setSpeakerId(static_cast<unsigned short>(qt5::toInt(row.value(0))));
+    speaker.setName(qt5::toText(row.value(1)));
+    speaker.setSpeakerClass(speakerClass);
+    speaker.setRib(qt5::toInt(row.value(3)));
+    speaker.setDisplayNameShort(qt5::toText(row.value(4)));
+    speaker.setSortOrder(qt5::toInt(row.value(5)));
+    speaker.setCablefitMaxCount(qt5::toInt(row.value(6)));
+    speaker.setIsWFSetup(qt5::toInt(row.value(7)) != 0);
     return speaker;
 }
 
@@ -59,6 +58,7 @@ void CDriverCache::fillSpeakers(QSqlDatabase const & db)
     QSqlQuery rows =
         queryRows(db, QStringLiteral("SELECT SpeakerId, Name, Class, Rib, DisplayNameShort, SortOrder, "
                                      "CablefitMaxCount, WfActive FROM Speakers"));
+    QList<CSpeakerDef> speakers;
     while (rows.next()) {
         // The column is a level and a flag at once: a speaker above the level is not known at all.
         if (qt5::toInt(rows.value(7)) > guidSupportedLevel_)
@@ -67,10 +67,9 @@ void CDriverCache::fillSpeakers(QSqlDatabase const & db)
         auto const classNumber = static_cast<unsigned char>(qt5::toInt(rows.value(2)));
         if (CDriverCacheSpeakerClassItem const * const item = speakerClassItem(classNumber))
             item->toSpeakerClass(speakerClass);
-        std::unique_ptr<CSpeakerDef> speaker = speakerOfRow(rows, speakerClass);
-        if (addSpeakerItem(speaker.get()))
-            static_cast<void>(speaker.release()); // the catalogue owns it now
+        speakers.append(speakerOfRow(rows, speakerClass));
     }
+    speakerItems->addSpeakerItems(speakers);
 }
 
 void CDriverCache::fillGuidSpeakerList(CDeviceGuid const & guid)

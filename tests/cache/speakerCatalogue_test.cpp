@@ -75,6 +75,14 @@ void add(List & list, unsigned short id, unsigned char classNumber, int sortOrde
     static_cast<void>(speaker.release());
 }
 
+void changeClass(CSpeakerDef & speaker, void (*change)(CSpeakerClass & speakerClass))
+{
+    CSpeakerClass speakerClass;
+    speaker.speakerClass(speakerClass);
+    change(speakerClass);
+    speaker.setSpeakerClass(speakerClass);
+}
+
 Ids fitting(List & list, int types, int mode)
 {
     Ids ids;
@@ -251,6 +259,27 @@ TEST(SpeakerSets, KeepDifferentDefinitionsOfOneIdAndIdenticalOnesOnce)
     EXPECT_TRUE(cache.isSpeakerSupportedByDevice(9, device)) << "in both lists, and the supported one counts";
 }
 
+TEST(SpeakerSets, AreReadInLinearTimeThoughAllIdsShareTheirLowByte)
+{
+    // Each of them twice. So many that comparing each with all before it would take minutes, not a second.
+    DatabaseFolder folder;
+    folder.add(QStringLiteral("a.db3"),
+               tables + QStringLiteral("DROP TABLE Speakers;"
+                                       "CREATE VIEW Speakers AS WITH RECURSIVE Numbers (Number) AS "
+                                       "(SELECT 0 UNION ALL SELECT Number + 1 FROM Numbers "
+                                       "WHERE Number < 119999) "
+                                       "SELECT 5 AS SpeakerId, 'S' || (Number % 60000) AS Name, 0 AS Class, "
+                                       "0 AS Rib, '' AS DisplayNameShort, 0 AS SortOrder, "
+                                       "0 AS CablefitMaxCount, 0 AS WfActive FROM Numbers;"));
+    ExposedCache cache;
+    ASSERT_EQ(cache.openDatabases(folder.dir()), 1);
+    QList<CSpeakerDef> found;
+    ASSERT_EQ(cache.speakerDef(261, found, SpeakerDefAll), TharnNoError);
+    ASSERT_EQ(found.size(), 60000);
+    EXPECT_EQ(found.first().name(), QStringLiteral("S59999")) << "the one read last stands in front";
+    EXPECT_EQ(found.last().name(), QStringLiteral("S0"));
+}
+
 TEST(SpeakerSets, HaveIdsOf16Bits)
 {
     DatabaseFolder folder;
@@ -314,6 +343,63 @@ TEST(SpeakerList, RefusesAnEqualDefinition)
     equal.setSortOrder(1);
     EXPECT_FALSE(list.addSpeakerItem(&equal));
     EXPECT_EQ(list.speakerIds(), Ids{5});
+}
+
+TEST(SpeakerList, AddsCopiesOfThoseThatItHasNotGot)
+{
+    List list;
+    add(list, 5, 0, 1);
+    QList<CSpeakerDef> there;
+    list.speakerDef(5, there, SpeakerDefAll);
+    CSpeakerDef other = there.first();
+    other.setSpeakerId(261);
+    list.addSpeakerItems({there.first(), other, other});
+    EXPECT_EQ(list.speakerIds(), (Ids{261, 5}));
+    EXPECT_EQ(list.maxSpeakerId(), 261);
+    list.clear();
+    list.addSpeakerItems({other, there.first()});
+    EXPECT_EQ(list.speakerIds(), (Ids{5, 261})) << "nothing is remembered that was cleared";
+}
+
+TEST(SpeakerList, AddsThoseThatDifferInOneMember)
+{
+    CSpeakerDef first;
+    first.setSpeakerId(5);
+    first.setName(QStringLiteral("Name"));
+    first.setDisplayNameShort(QString());
+
+    struct Row {
+        char const * what;
+        void (*change)(CSpeakerDef & speaker);
+        int count;
+    };
+
+    Row const rows[] = {
+        {"nothing", [](CSpeakerDef &) {}, 1},
+        {"an empty text for none", [](CSpeakerDef & s) { s.setDisplayNameShort(QStringLiteral("")); }, 1},
+        {"id", [](CSpeakerDef & s) { s.setSpeakerId(261); }, 2},
+        {"name", [](CSpeakerDef & s) { s.setName(QStringLiteral("name")); }, 2},
+        {"class", [](CSpeakerDef & s) { changeClass(s, [](CSpeakerClass & c) { c.classNumber = 4; }); }, 2},
+        {"ways", [](CSpeakerDef & s) { changeClass(s, [](CSpeakerClass & c) { c.ways = 2; }); }, 2},
+        {"names of the ways",
+         [](CSpeakerDef & s) { changeClass(s, [](CSpeakerClass & c) { c.names = QStringLiteral("Low"); }); },
+         2},
+        {"rib", [](CSpeakerDef & s) { s.setRib(-2); }, 2},
+        {"short name", [](CSpeakerDef & s) { s.setDisplayNameShort(QStringLiteral("N")); }, 2},
+        {"sort order", [](CSpeakerDef & s) { s.setSortOrder(-2); }, 2},
+        {"Cablefit count", [](CSpeakerDef & s) { s.setCablefitMaxCount(-2); }, 2},
+        {"Wavefold", [](CSpeakerDef & s) { s.setIsWFSetup(true); }, 2},
+        {"other flags", [](CSpeakerDef & s) { s.setFlags(0x80); }, 2},
+    };
+    for (Row const & row : rows) {
+        CSpeakerDef second = first;
+        row.change(second);
+        List list;
+        list.addSpeakerItems({first, second});
+        EXPECT_EQ(list.speakerIds().size(), row.count) << row.what;
+        list.addSpeakerItems({second});
+        EXPECT_EQ(list.speakerIds().size(), row.count) << row.what << ", once more";
+    }
 }
 
 TEST(SpeakerList, FiltersByClassTypeAndMode)
