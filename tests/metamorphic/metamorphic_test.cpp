@@ -18,6 +18,9 @@ namespace {
 
 constexpr unsigned worlds = 40;
 constexpr unsigned char level = 2;
+constexpr unsigned short noSpeaker = 0;
+/// Those of the worlds, one that is unknown, and none.
+constexpr unsigned short speakerIds[] = {noSpeaker, 5, 11, 12, 68, 71, 99, 267};
 
 /// A library with the databases of a folder open. One at a time: connections are named after the files.
 struct Opened {
@@ -49,7 +52,7 @@ QString difference(QStringList const & left, QStringList const & right)
     return {};
 }
 
-/// The definitions of all objects of all devices, asked in one of two ways.
+/// The definitions of all objects of all devices, on each channel and on none, asked in one of two ways.
 template <typename Ask>
 QStringList definitions(DatabaseFolder const & folder, RandomWorld const & world, Ask ask)
 {
@@ -57,10 +60,19 @@ QStringList definitions(DatabaseFolder const & folder, RandomWorld const & world
     QStringList all;
     for (QString const & guid : world.guids()) {
         for (RandomWorld::Object const & object : world.objects) {
-            CObjectDef definition;
-            definition.setMask(QFlags<ObjectDefMask>(QFlag(~0U)));
-            bool const isFound = ask(*opened.library, CDeviceGuid(guid), object, definition);
-            all.append(QStringLiteral("%1 %2").arg(isFound).arg(wordsOf(definition)));
+            for (unsigned short const speakerId : speakerIds) {
+                CDeviceChannelInfo channel;
+                channel.SetSpeakerId(speakerId);
+                CObjectDef definition;
+                definition.setMask(QFlags<ObjectDefMask>(QFlag(~0U)));
+                bool const isFound = ask(*opened.library, CDeviceGuid(guid), object, definition,
+                                         speakerId != noSpeaker ? &channel : nullptr);
+                all.append(QStringLiteral("%1 %2 %3 %4 %5")
+                               .arg(guid, object.name)
+                               .arg(speakerId)
+                               .arg(isFound)
+                               .arg(wordsOf(definition)));
+            }
         }
     }
     return all;
@@ -144,19 +156,19 @@ TEST(RandomWorlds, AnswerAlikeByNameAndByNumber)
         RandomWorld const world(seed);
         DatabaseFolder folder;
         folder.add(fileA, world.sql(RandomWorld::Form::New));
-        QStringList const byName =
-            definitions(folder, world,
-                        [](CDevicelore & library, CDeviceGuid const & guid,
-                           RandomWorld::Object const & object, CObjectDef & def) {
-                            return library.GetObjectDef(guid, object.name, def, nullptr) == TharnNoError;
-                        });
-        QStringList const byNumber =
-            definitions(folder, world,
-                        [](CDevicelore & library, CDeviceGuid const & guid,
-                           RandomWorld::Object const & object, CObjectDef & def) {
-                            auto const number = static_cast<unsigned short>(object.box * 256 + object.number);
-                            return library.GetObjectDef(guid, number, def, nullptr) == TharnNoError;
-                        });
+        QStringList const byName = definitions(
+            folder, world,
+            [](CDevicelore & library, CDeviceGuid const & guid, RandomWorld::Object const & object,
+               CObjectDef & def, CDeviceChannelInfo const * channel) {
+                return library.GetObjectDef(guid, object.name, def, channel) == TharnNoError;
+            });
+        QStringList const byNumber = definitions(
+            folder, world,
+            [](CDevicelore & library, CDeviceGuid const & guid, RandomWorld::Object const & object,
+               CObjectDef & def, CDeviceChannelInfo const * channel) {
+                auto const number = static_cast<unsigned short>(object.box * 256 + object.number);
+                return library.GetObjectDef(guid, number, def, channel) == TharnNoError;
+            });
         EXPECT_EQ(difference(byName, byNumber), QString()) << seed;
     }
 }
