@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QFile>
+
 #include <utility>
 #include <vector>
 
@@ -88,6 +91,14 @@ std::vector<Table> const & tables()
         {"TextsObjectValues", {{"TextOffset", "30"}, {"Value", "1"}, {"TextShort_en_US", "'On'"}}},
         {"DevicePropertyFilter",
          {{"FilterName", "'F'"}, {"Expression", "'SELECT Name FROM Objects'"}, {"Access", "0"}}},
+        {"SpeakerData",
+         {{"GUID", "'C7000012'"},
+          {"SpeakerId", "12"},
+          {"DeviceType", "'Hesko'"},
+          {"SpeakerName", "'Wave'"},
+          {"SpeakerVersion", "'2.3'"},
+          {"BlobData", "x'00ff'"},
+          {"BlobDataMD5", "'m'"}}},
     };
     return all;
 }
@@ -130,6 +141,24 @@ QString worldWith(QString const & oddColumn, char const * oddValue)
     return sql;
 }
 
+/// A copy of a database, as the speaker DSP database beside this program while it lives.
+class SpeakerDspDatabase {
+public:
+    explicit SpeakerDspDatabase(QString const & original)
+    {
+        folder.mkpath(QStringLiteral("."));
+        QFile::copy(original, folder.filePath(QStringLiteral("DspData.sqlite")));
+    }
+
+    ~SpeakerDspDatabase() { folder.removeRecursively(); }
+
+    SpeakerDspDatabase(SpeakerDspDatabase const &) = delete;
+    SpeakerDspDatabase & operator=(SpeakerDspDatabase const &) = delete;
+
+private:
+    QDir folder{QCoreApplication::applicationDirPath() + QStringLiteral("/DspData")};
+};
+
 void askAboutTheDevice(CDevicelore & facade, CDeviceGuid const & guid)
 {
     QString text;
@@ -151,6 +180,7 @@ void askAboutTheDevice(CDevicelore & facade, CDeviceGuid const & guid)
         for (int way = -1; way <= setup.numWays(); ++way)
             setup.speakerClass(speakerClass, way);
     }
+    facade.GetConfigSpeakerData(guid, 12);
     for (QString const & filter : facade.enumDevicePropertyFilter())
         facade.devicePropertyFilter(filter);
     QList<CDriverDatabaseInfo> infos;
@@ -192,10 +222,12 @@ void askAboutTheObject(CDevicelore & facade, CDeviceGuid const & guid, CDeviceCh
     }
 }
 
+/// The world is both kinds of database at once: each is asked for its own tables.
 QStringList messagesOfASession(QString const & sql)
 {
     DatabaseFolder folder;
     folder.add(QStringLiteral("a.db3"), sql);
+    SpeakerDspDatabase const speakerDsp(folder.path(QStringLiteral("a.db3")));
     MessageRecorder const recorder;
     auto * const cache = new CDriverCache;
     EXPECT_EQ(cache->openDatabases(folder.dir()), 1);
@@ -214,12 +246,18 @@ QStringList messagesOfASession(QString const & sql)
 
 TEST(UntrustedDatabase, AnswersWithoutAWordWhateverStandsInAColumn)
 {
-    EXPECT_EQ(messagesOfASession(worldWith(QString(), nullptr)), QStringList());
+    QStringList const noWord;
+    QStringList const noSuchSpeaker{
+        QStringLiteral("warning: Entry not found for device guid = C7000012 and speaker id = 12")};
+    EXPECT_EQ(messagesOfASession(worldWith(QString(), nullptr)), noWord);
     for (Table const & table : tables()) {
         for (Column const & column : table.columns) {
             QString const name = QLatin1String(table.name) + QLatin1Char('.') + QLatin1String(column.name);
+            bool const namesTheSpeaker =
+                name == QLatin1String("SpeakerData.GUID") || name == QLatin1String("SpeakerData.SpeakerId");
             for (char const * value : oddValues) {
-                EXPECT_EQ(messagesOfASession(worldWith(name, value)), QStringList())
+                EXPECT_EQ(messagesOfASession(worldWith(name, value)),
+                          namesTheSpeaker ? noSuchSpeaker : noWord)
                     << name.toStdString() << " = " << value;
             }
         }
@@ -230,6 +268,7 @@ TEST(UntrustedDatabase, IsWholeInTheWorldThatTheOthersDepartFrom)
 {
     DatabaseFolder folder;
     folder.add(QStringLiteral("a.db3"), worldWith(QString(), nullptr));
+    SpeakerDspDatabase const speakerDsp(folder.path(QStringLiteral("a.db3")));
     auto * const cache = new CDriverCache;
     ASSERT_EQ(cache->openDatabases(folder.dir()), 1);
     CDevicelore facade(QPointer<CDriverCache>(cache), nullptr);
@@ -244,6 +283,7 @@ TEST(UntrustedDatabase, IsWholeInTheWorldThatTheOthersDepartFrom)
     EXPECT_EQ(facade.objectValueString(guid, 30, 1), QStringLiteral("On"));
     EXPECT_EQ(facade.devicePropertyFilter(QStringLiteral("F")),
               QStringList{QStringLiteral("Config_Filter1")});
+    EXPECT_TRUE(facade.GetConfigSpeakerData(guid, 12).IsValid());
 }
 
 TEST(UntrustedDatabase, GivesAnEmptyGroupForAStatementThatItsConnectionRefuses)
