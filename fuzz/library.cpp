@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 using namespace kestrova::Morvel::Devicelore;
 
@@ -79,21 +80,44 @@ void askAboutObject(CDevicelore & library, CDeviceGuid const & guid, QString con
         library.listValueStrings(guid, static_cast<int>(object.textOffset()), texts);
         library.objectValueString(guid, static_cast<int>(object.textOffset()), 1);
     }
-    library.objectNumber(guid, name);
+    library.objectName(guid, library.objectNumber(guid, name));
     CDeviceProperty property;
     property.setPropertyName(name, QString());
+    QVariant min;
+    QVariant max;
+    QVariant step;
+    library.GetDevicePropertyRange(guid, property, min, max, step, channel);
     if (library.devicePropertyInfo(guid, property, channel))
         property.minValue();
+    bool isWritable = false;
+    library.DetermineSimpleControlType(guid, name, isWritable, channel);
     library.IsObjectSupported(guid, name, channel);
+}
+
+void askAboutSpeaker(CDevicelore & library, unsigned short id)
+{
+    QList<CSpeakerDef> definitions;
+    library.speakerDef(id, definitions, QFlags<SpeakerDefMask>(QFlag(~0U)));
+    for (CSpeakerDef const & definition : std::as_const(definitions))
+        definition.wayNameShort(0);
+    CSpeakerSetupInfo setup;
+    library.SpeakerSetupInfo(id, setup);
+    for (int way = -1; way <= setup.numWays(); ++way)
+        setup.wayNameShort(way);
 }
 
 void askAboutSpeakers(CDevicelore & library, CDeviceGuid const & guid)
 {
+    QList<QPair<unsigned short, QString>> names;
+    library.listSpeakersForDevice(guid, names);
+    QList<unsigned short> fitting;
+    for (int mode = -1; mode <= 8; ++mode)
+        library.listSpeakersForDevice(guid, fitting, QFlags<SpeakerType>(QFlag(7)), OutputMode(mode));
     QList<unsigned short> ids;
     library.listSpeakersForDevice(guid, ids);
-    for (unsigned short const id : ids) {
-        CSpeakerSetupInfo setup;
-        library.SpeakerSetupInfo(id, setup);
+    for (unsigned short const id : std::as_const(ids)) {
+        askAboutSpeaker(library, id);
+        library.isSpeakerSupportedByDevice(id, guid);
         CDriverPropertyTarget const target(guid, QStringLiteral("Config_SpeakerId"), ChannelFirst, 0, id);
         for (int mode = -1; mode <= 8; ++mode) {
             library.defaultSpeakerId(target, OutputMode(mode));
@@ -110,7 +134,9 @@ void askAboutDevice(CDevicelore & library, CDeviceGuid const & asked, QStringLis
 {
     CDeviceGuid const guid = library.determineDriverGuid(asked);
     library.deviceModelOnGuid(guid);
+    library.latestGuidOnDeviceType(library.deviceTypeOnGuid(guid));
     library.deviceChannelCount(guid, ChannelTypeSpeaker);
+    library.GetConfigSpeakerData(asked, 12);
     CDeviceChannelInfo speaker;
     speaker.SetSpeakerId(12);
     for (QString const & name : objectNames) {
@@ -120,15 +146,30 @@ void askAboutDevice(CDevicelore & library, CDeviceGuid const & asked, QStringLis
     askAboutSpeakers(library, guid);
 }
 
+void askAboutTypes(CDevicelore & library)
+{
+    for (QString const & model : library.deviceModels()) {
+        library.guidOnDeviceType(model);
+        library.latestGuidOnDeviceType(model);
+    }
+    for (int i = 0; i <= 255; ++i) {
+        auto const number = static_cast<unsigned char>(i);
+        QString model;
+        library.deviceTypeOnHardwaretype(number, model);
+        DeviceType type = DeviceTypeNone;
+        library.deviceTypeOnHardwaretype(number, type);
+    }
+}
+
 void askAll(CDevicelore & library, QStringList const & objectNames, QStringList const & guids)
 {
-    library.deviceModels();
+    askAboutTypes(library);
     for (QString const & guid : guids)
         askAboutDevice(library, CDeviceGuid(guid), objectNames);
     for (QString const & group : library.enumDevicePropertyFilter())
         library.devicePropertyFilter(group);
     library.devicePropertyFilterByExpression(QStringLiteral("SELECT Name FROM Objects"));
-    QList<CDriverDatabaseInfo> infos;
+    QList<CDriverDatabaseInfo> infos; // also of the speaker DSP database
     library.databaseInfos(infos);
 }
 
