@@ -182,6 +182,12 @@ CDevicelore & libraryWithoutDatabases()
     return library;
 }
 
+QDir speakerDspFolder()
+{
+    startApplication();
+    return {QCoreApplication::applicationDirPath() + QStringLiteral("/DspData")};
+}
+
 void askEverything(QString const & folder, QStringList const & objectNames, QStringList const & guids,
                    unsigned char otherLevel)
 {

@@ -7,8 +7,9 @@
 
 using namespace kestrova::fuzz;
 
-// A whole session over a random world: one to three databases, tables and columns that are there or not, both
-// forms of the schema, any type and value in any column.
+// A whole session over a random world: one to three device databases and that of the speaker DSP; tables and
+// columns that are there or not, the old form of the schema and that of today, any type and value in any
+// column.
 
 extern "C" int LLVMFuzzerTestOneInput(quint8 const * data, std::size_t size)
 {
@@ -20,6 +21,9 @@ extern "C" int LLVMFuzzerTestOneInput(quint8 const * data, std::size_t size)
         QFile::remove(folder.filePath(name));
     for (int i = 0; i < databases; ++i)
         writeRandomDatabase(folder.filePath(QStringLiteral("%1.db3").arg(i)), reader);
+    QDir const dspFolder = speakerDspFolder();
+    dspFolder.mkpath(QStringLiteral("."));
+    writeRandomSpeakerDspDatabase(dspFolder.filePath(QStringLiteral("DspData.sqlite")), reader);
     askEverything(folder.path(), objectNames(), deviceGuids(), otherLevel);
     return 0;
 }

@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -19,13 +20,22 @@ struct Column {
 struct Table {
     char const * name;
     std::vector<Column> columns;
+    char const * newerColumn = nullptr; ///< which databases of the old form lack
 };
 
-std::vector<Table> const & tables()
+/// How a table departs from a sound one. All other numbers below 16 are sound.
+enum Form { BesideAnotherTable = 11, OldForm = 12, WithAnotherColumn = 13, WithoutAColumn = 14, Absent = 15 };
+
+std::vector<char const *> const guids{"C7000012", "C7000112", "C7010112", "C7000005", "c7000012", "C70000A0"};
+std::vector<char const *> const models{"Hesko", "Talvo", "Vesni", "Tovian", "Zerin", "hesko"};
+std::vector<char const *> const small{"0", "1", "2", "5", "12", "31", "255", "256"};
+std::vector<char const *> const texts{"", "On", "---", "a;b", "1.2.3", "7"};
+std::vector<char const *> const speakers{"5", "12", "71", "261", "267"};
+
+Table const versionTable{"Version", {{"Major", small}, {"Minor", small}, {"Bugfix", small}}};
+
+std::vector<Table> const & tablesOfDevices()
 {
-    static std::vector<char const *> const guids{"C7000012", "C7000112", "C7010112",
-                                                 "C7000005", "c7000012", "C70000A0"};
-    static std::vector<char const *> const models{"Hesko", "Talvo", "Vesni", "Tovian", "Zerin", "hesko"};
     static std::vector<char const *> const names{"Gain",
                                                  "Config_Filter1",
                                                  "Config_Filter12",
@@ -33,30 +43,25 @@ std::vector<Table> const & tables()
                                                  "ChStatus_MsDelay",
                                                  "Config_SpeakerId",
                                                  "Wavefold_Width"};
-    static std::vector<char const *> const small{"0", "1", "2", "5", "12", "31", "255", "256"};
     static std::vector<char const *> const reals{"0", "1", "-1", "0.5", "10", "2147483647"};
-    static std::vector<char const *> const texts{"", "On", "---", "a;b", "1.2.3", "7"};
     static std::vector<char const *> const formats{"%5.1f dB", "%1U",    "%3u",    "%1s",   "%04X",
                                                    "%6H",      "%+9I8b", "%-6d V", "%I64u", "%T"};
-    static std::vector<char const *> const speakers{"5", "12", "71", "261", "267"};
     static std::vector<char const *> const filters{"10", "11", "21", "27", "-5", "---"};
     static std::vector<char const *> const statements{"SELECT Name FROM Objects", "SELECT 1", "SELEC", "",
                                                       "PRAGMA table_info(Objects)"};
     static std::vector<Table> const all{
-        {"Version", {{"Major", small}, {"Minor", small}, {"Bugfix", small}}},
+        versionTable,
         {"Guids",
-         {{"GUID", guids},
-          {"DeviceType", models},
-          {"Version", texts},
-          {"Access", small},
-          {"OnoType", small}}},
+         {{"GUID", guids}, {"DeviceType", models}, {"Version", texts}, {"Access", small}, {"OnoType", small}},
+         "OnoType"},
         {"Hardwaretypes", {{"Type", small}, {"DeviceType", models}}},
         {"Objects",
          {{"id", small},           {"Name", names},        {"BoxNumber", small},  {"ObjectNumber", small},
           {"ChannelCount", small}, {"RecordCount", small}, {"Min", reals},        {"Max", reals},
           {"Step", reals},         {"Format", formats},    {"Flags", small},      {"Access", small},
           {"DefaultValue", reals}, {"Size", small},        {"TextOffset", small}, {"Description", texts},
-          {"Comment", texts},      {"ClassId", small},     {"WaitTime", small},   {"WaitStates", small}}},
+          {"Comment", texts},      {"ClassId", small},     {"WaitTime", small},   {"WaitStates", small}},
+         "BoxNumber"},
         {"guidsandobjects", {{"objectid", small}, {"guid", guids}}},
         {"ObjectClasses", {{"Id", small}, {"OcaClassId", texts}, {"Description", texts}}},
         {"SpeakerClasses",
@@ -83,7 +88,25 @@ std::vector<Table> const & tables()
           {"StateTexts", texts}}},
         {"TextsObjectValues",
          {{"TextOffset", small}, {"Value", small}, {"TextShort_en_US", texts}, {"TextShort_de_DE", texts}}},
-        {"DevicePropertyFilter", {{"FilterName", texts}, {"Expression", statements}, {"Access", small}}},
+        {"DevicePropertyFilter",
+         {{"FilterName", texts}, {"Expression", statements}, {"Access", small}},
+         "Access"},
+    };
+    return all;
+}
+
+std::vector<Table> const & tablesOfSpeakerDsp()
+{
+    static std::vector<Table> const all{
+        versionTable,
+        {"SpeakerData",
+         {{"GUID", guids},
+          {"SpeakerId", speakers},
+          {"DeviceType", models},
+          {"SpeakerName", texts},
+          {"SpeakerVersion", texts},
+          {"BlobData", texts},
+          {"BlobDataMD5", texts}}},
     };
     return all;
 }
@@ -147,30 +170,44 @@ Statement prepared(Database const & database, QByteArray const & sql)
     return Statement(handle);
 }
 
+std::vector<Column> columnsOf(Table const & table, int form, ByteReader & reader)
+{
+    std::vector<Column> columns = table.columns;
+    auto const anyColumn = [&] { return columns.begin() + reader.choice(static_cast<int>(columns.size())); };
+    auto const isNewer = [&](Column const & column) { return column.name == QByteArray(table.newerColumn); };
+    if (form == WithoutAColumn)
+        columns.erase(anyColumn());
+    if (form == WithAnotherColumn)
+        columns.insert(anyColumn(), {"Extra", {"x"}});
+    if (form == OldForm)
+        columns.erase(std::remove_if(columns.begin(), columns.end(), isNewer), columns.end());
+    return columns;
+}
+
+void createTable(Database const & database, QByteArray const & name, QByteArray const & definition)
+{
+    sqlite3_exec(database.get(), ("CREATE TABLE " + name + " (" + definition + ")").constData(), nullptr,
+                 nullptr, nullptr);
+}
+
 void writeTable(Database const & database, Table const & table, ByteReader & reader)
 {
     static char const * const affinities[] = {"", " TEXT", " INTEGER", " REAL", " BLOB", " NUMERIC"};
-    quint8 const form = reader.byte();
-    if (form % 16 == 15)
-        return; // absent
-    bool const lacksAColumn = form % 16 == 14;
-    bool const hasMoreColumns = form % 16 == 13;
-    std::vector<Column> columns = table.columns;
-    if (lacksAColumn)
-        columns.erase(columns.begin() + reader.choice(static_cast<int>(columns.size())));
-    if (hasMoreColumns)
-        columns.insert(columns.begin() + reader.choice(static_cast<int>(columns.size())), {"Extra", {"x"}});
-
+    quint8 const decision = reader.byte();
+    int const form = decision % 16;
+    if (form == Absent)
+        return;
+    std::vector<Column> const columns = columnsOf(table, form, reader);
     QByteArray definition;
     QByteArray marks;
     for (Column const & column : columns) {
         definition += definition.isEmpty() ? "" : ", ";
-        definition += QByteArray(column.name) + affinities[(form / 16) % 6];
+        definition += QByteArray(column.name) + affinities[(decision / 16) % 6];
         marks += marks.isEmpty() ? "?" : ", ?";
     }
-    sqlite3_exec(database.get(),
-                 ("CREATE TABLE " + QByteArray(table.name) + " (" + definition + ")").constData(), nullptr,
-                 nullptr, nullptr);
+    if (form == BesideAnotherTable)
+        createTable(database, "Extra" + QByteArray(table.name), definition);
+    createTable(database, table.name, definition);
     Statement const insert =
         prepared(database, "INSERT INTO " + QByteArray(table.name) + " VALUES (" + marks + ")");
     int const rows = reader.choice(5);
@@ -183,20 +220,30 @@ void writeTable(Database const & database, Table const & table, ByteReader & rea
     }
 }
 
-} // namespace
-
-void writeRandomDatabase(QString const & path, ByteReader & reader)
+void writeDatabase(QString const & path, std::vector<Table> const & tables, ByteReader & reader)
 {
     sqlite3 * handle = nullptr;
     sqlite3_open(":memory:", &handle);
     Database const database(handle);
-    for (Table const & table : tables())
+    for (Table const & table : tables)
         writeTable(database, table, reader);
     sqlite3_int64 size = 0;
     std::unique_ptr<unsigned char, Close> const bytes(sqlite3_serialize(handle, "main", &size, 0));
     QFile file(path);
     file.open(QIODevice::WriteOnly);
     file.write(reinterpret_cast<char const *>(bytes.get()), size);
+}
+
+} // namespace
+
+void writeRandomDatabase(QString const & path, ByteReader & reader)
+{
+    writeDatabase(path, tablesOfDevices(), reader);
+}
+
+void writeRandomSpeakerDspDatabase(QString const & path, ByteReader & reader)
+{
+    writeDatabase(path, tablesOfSpeakerDsp(), reader);
 }
 
 QStringList const & objectNames()
