@@ -105,7 +105,8 @@ void makeEndlessSchema(QString const & path)
     QByteArray content = contentOf(path);
     QByteArray const first = content.left(pageSize);
     auto const cell = [&first](int index) {
-        return qFromBigEndian<quint16>(first.constData() + fileHeaderSize + leafHeaderSize + 2 * index);
+        int const place = fileHeaderSize + leafHeaderSize + 2 * index;
+        return qFromBigEndian<quint16>(first.constData() + place);
     };
     auto const tableAndIndex = static_cast<quint32>(content.size() / pageSize + 1);
     content += leafLike(first, {cell(0), cell(1)});
