@@ -1,6 +1,7 @@
 #include "core/encryptedDatabase.h"
 
 #include "hardening/boundedFunctions.h"
+#include "hardening/boundedViews.h"
 #include "hardening/connectionLimits.h"
 #include "hardening/statementBudget.h"
 #include "hardening/statementRules.h"
@@ -44,22 +45,6 @@ sqlite3 * sqliteHandleOf(QSqlDatabase const & connection)
     return isSqlite ? *static_cast<sqlite3 * const *>(handle.constData()) : nullptr;
 }
 
-/// Bytes of all views of a database. SQLite puts views into each other when it prepares a statement, where no
-/// budget can stop it: thousands in each other overflow its stack.
-constexpr int largestViews = 32 * 1024;
-
-/// Reads the whole schema, which opening alone does not look at. What fails here would fail later only in
-/// part: a setting would be lost, a column be taken for missing. Whatever is not known to be harmless counts
-/// as a view, since the column "type" may lie.
-bool isReadable(QSqlDatabase const & connection)
-{
-    QSqlQuery query(connection);
-    return query.exec(QStringLiteral("SELECT total(length(CAST(sql AS BLOB))) FROM sqlite_master WHERE NOT "
-                                     "(sql LIKE 'CREATE TABLE %' OR sql LIKE 'CREATE INDEX %' OR "
-                                     "sql LIKE 'CREATE UNIQUE INDEX %')")) &&
-           query.next() && query.value(0).toDouble() <= largestViews;
-}
-
 bool setUp(QSqlDatabase const & connection)
 {
     QSqlQuery query(connection);
@@ -84,7 +69,9 @@ bool openReadOnly(QSqlDatabase & connection, QString const & filePath)
     if (!sqlite || !hardening::limitConnection(sqlite) || !hardening::boundFunctions(sqlite))
         return false;
     hardening::holdToOpening(sqlite);
-    if (!isReadable(connection) || !setUp(connection))
+    // Reads the whole schema, which opening alone does not look at. What fails here would fail later only in
+    // part: a setting would be lost, a column be taken for missing.
+    if (!hardening::hasBoundedViews(sqlite) || !setUp(connection))
         return false;
     connection.setDatabaseName(filePath);
     // From here on, nobody changes a setting.

@@ -3,6 +3,9 @@
 #include "sqlite.h"
 
 #include "common/failure.h"
+#include "hardening/boundedFunctions.h"
+#include "hardening/boundedViews.h"
+#include "hardening/statementBudget.h"
 
 #include <QFileInfo>
 #include <QStringList>
@@ -47,7 +50,14 @@ DatabaseHandle openForReading(QString const & path, char const * vfs)
     return openDatabase(uri.constData(), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, vfs);
 }
 
-/// The first row that a statement gives, each column as text. Throws Failure with SQLite's words.
+QString troubleOf(DatabaseHandle const & database)
+{
+    return sqlite3_errcode(database.get()) == SQLITE_INTERRUPT
+               ? QStringLiteral("reading it takes too long, as if it had no end; make it anew")
+               : errorText(database);
+}
+
+/// The first row that a statement gives, each column as text. Throws Failure with the reason.
 std::optional<QStringList> firstRow(DatabaseHandle const & database, QByteArray const & sql,
                                     QVector<QByteArray> const & arguments = {})
 {
@@ -55,22 +65,30 @@ std::optional<QStringList> firstRow(DatabaseHandle const & database, QByteArray 
     int code = sqlite3_prepare_v2(database.get(), sql.constData(), -1, &handle, nullptr);
     StatementHandle const statement(handle);
     if (code != SQLITE_OK)
-        throw Failure(ExitDatabase, errorText(database));
+        throw Failure(ExitDatabase, troubleOf(database));
     for (int index = 0; index < arguments.size(); ++index)
         sqlite3_bind_text(handle, index + 1, arguments.at(index).constData(), -1, SQLITE_STATIC);
     code = sqlite3_step(handle);
     if (code == SQLITE_DONE)
         return {};
     if (code != SQLITE_ROW)
-        throw Failure(ExitDatabase, errorText(database));
+        throw Failure(ExitDatabase, troubleOf(database));
     QStringList row;
     for (int column = 0; column < sqlite3_column_count(handle); ++column)
         row.append(QString::fromUtf8(reinterpret_cast<char const *>(sqlite3_column_text(handle, column))));
     return row;
 }
 
+/// Holds the database to what the library holds it to, but for its settings.
 void prepareForUntrustedFile(DatabaseHandle const & database)
 {
+    hardening::boundFunctions(database.get());
+    hardening::holdToOpening(database.get());
+    firstRow(database, "SELECT 1 FROM sqlite_schema");
+    if (!hardening::hasBoundedViews(database.get()))
+        throw Failure(ExitDatabase,
+                      QStringLiteral("its views have more than 32 KiB together; make them shorter"));
+    hardening::holdToBudget(database.get());
     firstRow(database, "PRAGMA trusted_schema = OFF");
     firstRow(database, "PRAGMA cell_size_check = ON");
     firstRow(database, "PRAGMA temp_store = MEMORY"); // a large sort would otherwise make a file

@@ -66,7 +66,7 @@ QString reason(FileInfo const & file)
         return file.inspection.message;
     if (file.content.trouble.isEmpty())
         return {};
-    return QStringLiteral("%1 is damaged: %2").arg(file.path, file.content.trouble);
+    return QStringLiteral("%1 cannot be used: %2").arg(file.path, file.content.trouble);
 }
 
 QString stateText(Inspection const & inspection)

@@ -281,6 +281,18 @@ TEST_F(InfoCommand, FindsTheDamageOfAFirstPage)
     EXPECT_EQ(result.output, QStringLiteral("file   a.db3\nstate  damaged, format version 4\n"));
 }
 
+TEST_F(InfoCommand, FindsViewsThatNoApplicationOpens)
+{
+    QString sql = QStringLiteral("CREATE TABLE v0 (a);");
+    for (int i = 1; i <= 2000; ++i)
+        sql += QStringLiteral("CREATE VIEW v%1 AS SELECT * FROM v%2;").arg(i).arg(i - 1);
+    makeSqlFile(path(QStringLiteral("a.db")),
+                sql + QStringLiteral("CREATE VIEW Objects AS SELECT * FROM v2000"));
+    expectTrouble(
+        QStringLiteral("a.db"), "plain",
+        QStringLiteral("a.db cannot be used: its views have more than 32 KiB together; make them shorter"));
+}
+
 TEST_F(InfoCommand, FindsTheDamageOfAPlainDatabase)
 {
     makeSqlFile(path(QStringLiteral("a.db")), newSql);
@@ -289,7 +301,7 @@ TEST_F(InfoCommand, FindsTheDamageOfAPlainDatabase)
     write(QStringLiteral("a.db"), bytes);
     ProgramResult const result = run("info a.db");
     EXPECT_EQ(result.exitCode, 4);
-    EXPECT_TRUE(result.messages.startsWith(QLatin1String("devicelore-db: a.db is damaged: Page 4: ")))
+    EXPECT_TRUE(result.messages.startsWith(QLatin1String("devicelore-db: a.db cannot be used: Page 4: ")))
         << result.messages.toStdString();
     EXPECT_TRUE(result.output.contains(QLatin1String("\nstate      plain\n")));
     EXPECT_TRUE(result.output.contains(QLatin1String("\nGuids                 2           with OnoType\n")));
