@@ -13,9 +13,11 @@ using Clock = std::chrono::steady_clock;
 /// time.
 constexpr int stepsPerCheck = 100;
 
-/// A database that has brought along so many statements without an end may have a million of them.
+/// A database that has brought along so many statements without an end may have thousands of them. What is
+/// left still has to read the tables: an honest database with one such statement overruns at each reload.
 constexpr int overrunsForgiven = 3;
-constexpr sqlite3_int64 stepsAfterwards = 10'000;
+constexpr sqlite3_int64 stepsAfterwards = 1'000'000;
+constexpr std::chrono::seconds timeAfterwards{3};
 
 /// Larger files are not read whole.
 constexpr sqlite3_int64 largestPageCache = sqlite3_int64(256) * 1024 * 1024;
@@ -89,8 +91,10 @@ private:
 
     void noteOverrun()
     {
-        if (++overruns == overrunsForgiven)
-            budget.steps = std::min(budget.steps, stepsAfterwards);
+        if (++overruns < overrunsForgiven)
+            return;
+        budget.steps = std::min(budget.steps, stepsAfterwards);
+        budget.time = std::min<std::chrono::milliseconds>(budget.time, timeAfterwards);
     }
 
     static sqlite3_int64 bytesOf(sqlite3_stmt * row, int column)

@@ -7,7 +7,7 @@
 namespace kestrova::hardening {
 
 /// What one run of a statement may take, without its preparation. A statement that goes beyond is interrupted
-/// and fails. After three of them, each further one on the connection may take a few thousand steps.
+/// and fails. After three of them, each further one on the connection has a million steps and three seconds.
 struct StatementBudget {
     /// Of SQLite's virtual machine. A row of a million takes some twenty; a hundred million are done in a few
     /// seconds.
