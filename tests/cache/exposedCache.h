@@ -16,6 +16,7 @@ class ExposedCache : public Morvel::Devicelore::CDriverCache {
 public:
     using CDriverCache::addGuidItem;
     using CDriverCache::addObjectItem;
+    using CDriverCache::addSpeakerItem;
     using CDriverCache::connectionHasBoxNumber;
     using CDriverCache::connectionName;
     using CDriverCache::connectionNames;

@@ -477,6 +477,18 @@ TEST(SpeakerList, ClearForgetsAll)
     EXPECT_EQ(list.maxSpeakerId(), 0);
 }
 
+TEST(SpeakerItems, TheCacheHandsADefinitionOnToItsCatalogue)
+{
+    ExposedCache cache;
+    auto speaker = std::make_unique<CSpeakerDef>();
+    speaker->setSpeakerId(12);
+    CSpeakerDef equal(*speaker);
+    ASSERT_TRUE(cache.addSpeakerItem(speaker.get()));
+    static_cast<void>(speaker.release());
+    EXPECT_FALSE(cache.addSpeakerItem(&equal));
+    EXPECT_EQ(cache.speakerItems->maxSpeakerId(), 12);
+}
+
 TEST(SpeakerClassItem, StartsAsNoClassAndFillsASpeakerClass)
 {
     CDriverCacheSpeakerClassItem item;
