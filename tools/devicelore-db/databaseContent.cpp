@@ -82,15 +82,18 @@ std::optional<QStringList> firstRow(DatabaseHandle const & database, QByteArray 
 /// Holds the database to what the library holds it to, but for its settings.
 void prepareForUntrustedFile(DatabaseHandle const & database)
 {
-    hardening::boundFunctions(database.get());
-    hardening::holdToOpening(database.get());
-    firstRow(database, "SELECT 1 FROM sqlite_schema");
-    if (!hardening::hasBoundedViews(database.get()))
-        throw Failure(ExitDatabase,
-                      QStringLiteral("its views have more than 32 KiB together; make them shorter"));
-    hardening::holdToBudget(database.get());
+    sqlite3 * const handle = database.get();
     firstRow(database, "PRAGMA trusted_schema = OFF");
     firstRow(database, "PRAGMA cell_size_check = ON");
+    if (!hardening::boundFunctions(handle))
+        throw Failure(ExitDatabase, errorText(database));
+    hardening::holdToOpening(handle);
+    firstRow(database, "SELECT 1 FROM sqlite_schema"); // says why it cannot be read
+    if (!hardening::hasBoundedViews(handle))
+        throw Failure(ExitDatabase,
+                      QStringLiteral("its views have more than 32 KiB together; make them shorter"));
+    if (!hardening::holdToBudget(handle))
+        throw Failure(ExitDatabase, errorText(database));
     firstRow(database, "PRAGMA temp_store = MEMORY"); // a large sort would otherwise make a file
 }
 
