@@ -1,7 +1,5 @@
 #include "connectionFixture.h"
 #include "sampleDatabase.h"
-#include "sqlcipher/databaseFile.h"
-#include "support/sqlFile.h"
 
 namespace kestrova::test {
 
@@ -12,12 +10,10 @@ protected:
     void openSample()
     {
         QString const file = path(QStringLiteral("sample.db3"));
-        makeSqlFile(file + QStringLiteral(".plain"),
-                    sampleSql() +
-                        QStringLiteral("CREATE VIEW Numbers AS SELECT replace(name, 'name of ', '') AS n "
-                                       "FROM Names WHERE instr(name, '299') > 0;"));
-        sqlcipher::encryptDatabase(file + QStringLiteral(".plain"), file, sqlcipher::version4,
-                                   sqlcipher::databaseKey);
+        makeEncryptedDatabase(
+            file,
+            sampleSql() + QStringLiteral("CREATE VIEW Numbers AS SELECT replace(name, 'name of ', '') AS n "
+                                         "FROM Names WHERE instr(name, '299') > 0;"));
         ASSERT_TRUE(open(file));
     }
 };

@@ -2,7 +2,6 @@
 #include "sampleDatabase.h"
 
 #include "sqlcipher/bytes.h"
-#include "sqlcipher/databaseFile.h"
 #include "sqlcipher/pageCodec.h"
 #include "support/sqlFile.h"
 
@@ -86,12 +85,9 @@ TEST_F(ChangedDatabase, IsReadAsItIsNowThoughItsHeaderAsksForALog)
 
 TEST_F(ChangedDatabase, IsReadAsItIsNowWhenEncrypted)
 {
-    QString const plain = path(QStringLiteral("plain.sqlite"));
-    makePlainSample(plain);
-    sqlcipher::encryptDatabase(plain, file, sqlcipher::version4, sqlcipher::databaseKey);
-    makeSqlFile(plain, newRows);
+    makeEncryptedSample(file);
     QString const changed = path(QStringLiteral("changed.db3"));
-    sqlcipher::encryptDatabase(plain, changed, sqlcipher::version4, sqlcipher::databaseKey);
+    makeEncryptedDatabase(changed, sampleSql() + newRows);
 
     ASSERT_TRUE(open(file));
     fillTheCache();

@@ -1,7 +1,5 @@
 #include "connectionFixture.h"
 #include "sampleDatabase.h"
-#include "sqlcipher/databaseFile.h"
-#include "support/sqlFile.h"
 
 namespace kestrova::test {
 
@@ -13,9 +11,7 @@ protected:
     bool openDatabaseOf(QString const & sql)
     {
         QString const file = path(QStringLiteral("limits.db3"));
-        QString const plain = file + QStringLiteral(".plain");
-        makeSqlFile(plain, sql);
-        sqlcipher::encryptDatabase(plain, file, sqlcipher::version4, sqlcipher::databaseKey);
+        makeEncryptedDatabase(file, sql);
         return open(file);
     }
 };
@@ -151,11 +147,7 @@ TEST_F(ConnectionLimits, LeaveOutVirtualTables)
 TEST_F(ConnectionLimits, KeepViewsFromCallingFunctionsOfTheApplication)
 {
     QString const view = QStringLiteral("CREATE VIEW V AS SELECT application();");
-    QString const file = path(QStringLiteral("view.db3"));
-    makeSqlFile(file + QStringLiteral(".plain"), view + QStringLiteral("CREATE TABLE T (a);"));
-    sqlcipher::encryptDatabase(file + QStringLiteral(".plain"), file, sqlcipher::version4,
-                               sqlcipher::databaseKey);
-    ASSERT_TRUE(open(file));
+    ASSERT_TRUE(openDatabaseOf(view + QStringLiteral("CREATE TABLE T (a);")));
     auto const answer = [](sqlite3_context * context, int, sqlite3_value **) {
         sqlite3_result_int(context, 9);
     };

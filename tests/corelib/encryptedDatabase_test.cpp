@@ -72,11 +72,10 @@ protected:
     /// An encrypted database with the one table Mark, that holds the one value \a mark.
     QString marked(QString const & mark)
     {
-        QString const plain = path(mark + QStringLiteral(".plain"));
         QString const encrypted = path(mark + QStringLiteral(".db3"));
-        makeSqlFile(
-            plain, QStringLiteral("CREATE TABLE Mark (mark TEXT); INSERT INTO Mark VALUES ('%1')").arg(mark));
-        sqlcipher::encryptDatabase(plain, encrypted);
+        makeEncryptedDatabase(
+            encrypted,
+            QStringLiteral("CREATE TABLE Mark (mark TEXT); INSERT INTO Mark VALUES ('%1')").arg(mark));
         return encrypted;
     }
 };

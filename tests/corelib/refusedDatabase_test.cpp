@@ -4,7 +4,6 @@
 #include "sampleDatabase.h"
 
 #include "sqlcipher/bytes.h"
-#include "sqlcipher/databaseFile.h"
 #include "sqlcipher/pageCodec.h"
 #include "support/sqlFile.h"
 
@@ -134,38 +133,20 @@ INSTANTIATE_TEST_SUITE_P(
                       relabelled("Version3WithTheReserveOfVersion4", sqlcipher::version3, 20, 80)),
     [](auto const & row) { return row.param.name; });
 
-/// A chain of views, each of which reads the one before.
-QString viewsWithinViews(int count)
-{
-    QString sql = QStringLiteral("CREATE TABLE v0 (a); INSERT INTO v0 VALUES (7);");
-    for (int i = 1; i <= count; ++i)
-        sql += QStringLiteral("CREATE VIEW v%1 AS SELECT * FROM v%2;").arg(i).arg(i - 1);
-    return sql;
-}
-
-RefusedFile encrypted(char const * name, std::function<void(QString const & path)> const & makePlain)
-{
-    return {name, [makePlain](QString const & path) {
-                QString const plain = path + QStringLiteral(".plain");
-                makePlain(plain);
-                sqlcipher::encryptDatabase(plain, path, sqlcipher::version4, sqlcipher::databaseKey);
-                QFile::remove(plain);
-            }};
-}
-
 // SQLite would overflow its stack, or read for years.
 INSTANTIATE_TEST_SUITE_P(HostileSchema, RefusedDatabase,
-                         ::testing::Values(encrypted("ViewsWithinViews",
-                                                     [](QString const & path) {
-                                                         makeSqlFile(path, viewsWithinViews(2000));
-                                                     }),
+                         ::testing::Values(RefusedFile{"ViewsWithinViews",
+                                                       [](QString const & path) {
+                                                           makeEncryptedDatabase(path,
+                                                                                 viewsWithinViews(2000));
+                                                       }},
                                            RefusedFile{"EndlessSchema", makeEndlessSchema}),
                          [](auto const & row) { return row.param.name; });
 
 TEST_F(ConnectionFixture, OpensADatabaseOfSomeHundredViewsWithinViews)
 {
     QString const file = path(QStringLiteral("views.db3"));
-    encrypted("", [](QString const & plain) { makeSqlFile(plain, viewsWithinViews(600)); }).make(file);
+    makeEncryptedDatabase(file, viewsWithinViews(600));
     ASSERT_TRUE(open(file));
     EXPECT_EQ(ask(QStringLiteral("SELECT * FROM v600")), "7");
 }

@@ -32,13 +32,19 @@ void makePlainSample(QString const & path)
     makeSqlFile(path, sampleSql());
 }
 
+void makeEncryptedDatabase(QString const & path, QString const & sql, sqlcipher::PageFormat const & format,
+                           sqlcipher::Key const & key)
+{
+    QString const plain = path + QStringLiteral(".plain");
+    makeSqlFile(plain, sql);
+    sqlcipher::encryptDatabase(plain, path, format, key);
+    QFile::remove(plain);
+}
+
 void makeEncryptedSample(QString const & path, sqlcipher::PageFormat const & format,
                          sqlcipher::Key const & key)
 {
-    QString const plain = path + QStringLiteral(".plain");
-    makePlainSample(plain);
-    sqlcipher::encryptDatabase(plain, path, format, key);
-    QFile::remove(plain);
+    makeEncryptedDatabase(path, sampleSql(), format, key);
 }
 
 QByteArray contentOf(QString const & path)

@@ -15,6 +15,11 @@ QString sampleSql();
 
 void makePlainSample(QString const & path);
 
+/// Makes the encrypted database \a path from \a sql, a text of any number of statements.
+void makeEncryptedDatabase(QString const & path, QString const & sql,
+                           sqlcipher::PageFormat const & format = sqlcipher::version4,
+                           sqlcipher::Key const & key = sqlcipher::databaseKey);
+
 /// Version 4 unless told otherwise. More than 20 pages in either version.
 void makeEncryptedSample(QString const & path, sqlcipher::PageFormat const & format = sqlcipher::version4,
                          sqlcipher::Key const & key = sqlcipher::databaseKey);

@@ -34,12 +34,12 @@ std::string countTo(int number)
            std::to_string(number) + ") SELECT count(*) FROM c";
 }
 
-/// A connection of SQLite's own to a database in memory.
+/// A connection of SQLite's own to a database, in memory unless told otherwise.
 class Database {
 public:
-    explicit Database(StatementBudget const & budget)
+    explicit Database(StatementBudget const & budget, QString const & path = QStringLiteral(":memory:"))
     {
-        sqlite3_open(":memory:", &handle);
+        EXPECT_EQ(sqlite3_open(path.toUtf8().constData(), &handle), SQLITE_OK);
         EXPECT_TRUE(hardening::holdToBudget(handle, budget));
     }
 
@@ -214,15 +214,12 @@ TEST(StatementBudget, CountsAFileWithAHoleOnlyInPart)
     QString const file = folder.filePath(QStringLiteral("hole.sqlite"));
     makeSqlFile(file, QStringLiteral("CREATE TABLE T (a);"));
     ASSERT_TRUE(QFile::resize(file, qint64(100) * 1024 * 1024 * 1024));
-    sqlite3 * database = nullptr;
-    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &database), SQLITE_OK);
-    ASSERT_TRUE(hardening::holdToBudget(database, {noEnd, anHour, 67'108'864}));
+    Database const database({noEnd, anHour, 67'108'864}, file);
     char const sort[] = "PRAGMA temp_store = MEMORY;" // 1 GB
                         "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < 10000)"
                         " SELECT count(b) FROM (SELECT zeroblob(100000) AS b FROM c ORDER BY i % 7"
                         " LIMIT -1 OFFSET 1)";
-    EXPECT_EQ(sqlite3_exec(database, sort, nullptr, nullptr, nullptr), SQLITE_INTERRUPT);
-    sqlite3_close(database);
+    EXPECT_EQ(database.run(sort), SQLITE_INTERRUPT);
 }
 
 TEST(StatementBudget, EndsACountOfARepeatedPage)
@@ -230,13 +227,10 @@ TEST(StatementBudget, EndsACountOfARepeatedPage)
     QTemporaryDir const folder;
     QString const file = folder.filePath(QStringLiteral("endless.sqlite"));
     makeEndlessTable(file);
-    sqlite3 * database = nullptr;
-    ASSERT_EQ(sqlite3_open(file.toUtf8().constData(), &database), SQLITE_OK);
-    ASSERT_TRUE(hardening::boundFunctions(database));
-    ASSERT_TRUE(hardening::holdToBudget(database, {1'000'000, anHour, noEnd}));
-    EXPECT_EQ(sqlite3_exec(database, "SELECT max(a) FROM T", nullptr, nullptr, nullptr), SQLITE_INTERRUPT);
-    EXPECT_EQ(sqlite3_exec(database, "SELECT count(*) FROM T", nullptr, nullptr, nullptr), SQLITE_INTERRUPT);
-    sqlite3_close(database);
+    Database const database({1'000'000, anHour, noEnd}, file);
+    ASSERT_TRUE(hardening::boundFunctions(database.handle));
+    EXPECT_EQ(database.run("SELECT max(a) FROM T"), SQLITE_INTERRUPT);
+    EXPECT_EQ(database.run("SELECT count(*) FROM T"), SQLITE_INTERRUPT);
 }
 
 class BudgetOfAConnection : public ConnectionFixture {

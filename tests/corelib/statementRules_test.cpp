@@ -1,8 +1,6 @@
 #include "connectionFixture.h"
 #include "folderSnapshot.h"
 #include "sampleDatabase.h"
-#include "sqlcipher/databaseFile.h"
-#include "support/sqlFile.h"
 
 #include <QSqlDatabase>
 #include <QSqlIndex>
@@ -18,14 +16,12 @@ protected:
     void openSample()
     {
         QString const file = path(QStringLiteral("sample.db3"));
-        makeSqlFile(file + QStringLiteral(".plain"),
-                    sampleSql() +
-                        QStringLiteral("CREATE VIEW FirstNames AS SELECT name FROM Names WHERE id < 3;"
-                                       "CREATE TABLE Log (text);"
-                                       "CREATE TRIGGER Logging AFTER INSERT ON Names BEGIN"
-                                       "  INSERT INTO Log VALUES (new.name); END;"));
-        sqlcipher::encryptDatabase(file + QStringLiteral(".plain"), file, sqlcipher::version4,
-                                   sqlcipher::databaseKey);
+        makeEncryptedDatabase(
+            file,
+            sampleSql() + QStringLiteral("CREATE VIEW FirstNames AS SELECT name FROM Names WHERE id < 3;"
+                                         "CREATE TABLE Log (text);"
+                                         "CREATE TRIGGER Logging AFTER INSERT ON Names BEGIN"
+                                         "  INSERT INTO Log VALUES (new.name); END;"));
         ASSERT_TRUE(open(file));
     }
 };

@@ -20,4 +20,12 @@ void makeSqlFile(QString const & path, QString const & sql)
         throw std::runtime_error(path.toStdString() + ": " + sqlite3_errmsg(handle));
 }
 
+QString viewsWithinViews(int count)
+{
+    QString sql = QStringLiteral("CREATE TABLE v0 (a); INSERT INTO v0 VALUES (7);");
+    for (int i = 1; i <= count; ++i)
+        sql += QStringLiteral("CREATE VIEW v%1 AS SELECT * FROM v%2;").arg(i).arg(i - 1);
+    return sql;
+}
+
 } // namespace kestrova::test

@@ -8,4 +8,8 @@ namespace kestrova::test {
 /// database without tables. Throws std::runtime_error with SQLite's own words when a statement fails.
 void makeSqlFile(QString const & path, QString const & sql);
 
+/// SQL text of a table v0 with the one value 7, and of the views v1 to v\a count, each of which reads the one
+/// before it.
+QString viewsWithinViews(int count);
+
 } // namespace kestrova::test

@@ -283,11 +283,8 @@ TEST_F(InfoCommand, FindsTheDamageOfAFirstPage)
 
 TEST_F(InfoCommand, FindsViewsThatNoApplicationOpens)
 {
-    QString sql = QStringLiteral("CREATE TABLE v0 (a);");
-    for (int i = 1; i <= 2000; ++i)
-        sql += QStringLiteral("CREATE VIEW v%1 AS SELECT * FROM v%2;").arg(i).arg(i - 1);
     makeSqlFile(path(QStringLiteral("a.db")),
-                sql + QStringLiteral("CREATE VIEW Objects AS SELECT * FROM v2000"));
+                viewsWithinViews(2000) + QStringLiteral("CREATE VIEW Objects AS SELECT * FROM v2000"));
     expectTrouble(
         QStringLiteral("a.db"), "plain",
         QStringLiteral("a.db cannot be used: its views have more than 32 KiB together; make them shorter"));
