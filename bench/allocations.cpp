@@ -10,7 +10,7 @@
 
 namespace {
 
-std::atomic<std::size_t> count{0};
+std::atomic<std::size_t> allocated{0};
 
 } // namespace
 
@@ -28,19 +28,19 @@ void * __libc_realloc(void * memory, std::size_t size);
 
 void * malloc(std::size_t size)
 {
-    count.fetch_add(1, std::memory_order_relaxed);
+    allocated.fetch_add(1, std::memory_order_relaxed);
     return __libc_malloc(size);
 }
 
 void * calloc(std::size_t number, std::size_t size)
 {
-    count.fetch_add(1, std::memory_order_relaxed);
+    allocated.fetch_add(1, std::memory_order_relaxed);
     return __libc_calloc(number, size);
 }
 
 void * realloc(void * memory, std::size_t size)
 {
-    count.fetch_add(1, std::memory_order_relaxed);
+    allocated.fetch_add(1, std::memory_order_relaxed);
     return __libc_realloc(memory, size);
 }
 
@@ -52,7 +52,7 @@ namespace kestrova::bench {
 
 std::size_t allocations()
 {
-    return count.load(std::memory_order_relaxed);
+    return allocated.load(std::memory_order_relaxed);
 }
 
 std::size_t heapBytes()

@@ -300,7 +300,7 @@ void add(std::string const & name, double goal, std::function<void(benchmark::St
     benchmark::RegisterBenchmark((name + "/floor").c_str(), floor);
 }
 
-bool registerAll()
+bool registerObjects()
 {
     for (WarmLookup const & row : warmLookups) {
         add(
@@ -315,6 +315,6 @@ bool registerAll()
     return true;
 }
 
-[[maybe_unused]] bool const registered = registerAll();
+[[maybe_unused]] bool const objectsAreRegistered = registerObjects();
 
 } // namespace

@@ -137,7 +137,7 @@ void parseByTheLibraries(benchmark::State & state, Parsing const & row)
         state.SkipWithError("the floor parsed another value");
 }
 
-bool registerAll()
+bool registerFormats()
 {
     for (Printing const & row : printings) {
         std::string const name = std::string("paraToStr, ") + row.name;
@@ -152,6 +152,6 @@ bool registerAll()
     return true;
 }
 
-[[maybe_unused]] bool const registered = registerAll();
+[[maybe_unused]] bool const formatsAreRegistered = registerFormats();
 
 } // namespace

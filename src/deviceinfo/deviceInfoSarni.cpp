@@ -7,6 +7,7 @@
 
 namespace kestrova::Morvel::Devicelore {
 
+namespace sarni {
 namespace {
 
 constexpr int lastChannel = 4;
@@ -64,11 +65,12 @@ bool takesSpeakers(int channel, OutputMode mode)
 }
 
 } // namespace
+} // namespace sarni
 
 CDeviceInfoSarni::CDeviceInfoSarni(int speakerOfPair)
     : twoWaySpeaker(speakerOfPair)
 {
-    setChannelCount(ChannelTypeSpeaker, lastChannel);
+    setChannelCount(ChannelTypeSpeaker, sarni::lastChannel);
     setChannelCount(ChannelTypeInput, 8);
     addEqualiserDefaults(defaultValues, QStringLiteral("Eq"));
 }
@@ -76,18 +78,18 @@ CDeviceInfoSarni::CDeviceInfoSarni(int speakerOfPair)
 QVariant CDeviceInfoSarni::defaultSpeaker(CDriverPropertyTarget const & target, OutputMode mode,
                                           CDriverCache * cache) const
 {
-    if (!isInTable(mode))
+    if (!sarni::isInTable(mode))
         return defaultValue(target, cache);
-    int const speaker = useOf(target.deviceChannel(), mode).defaultSpeaker;
-    return QVariant(speaker != speakerOfModel ? speaker : twoWaySpeaker);
+    int const speaker = sarni::useOf(target.deviceChannel(), mode).defaultSpeaker;
+    return QVariant(speaker != sarni::speakerOfModel ? speaker : twoWaySpeaker);
 }
 
 QVariant CDeviceInfoSarni::validatedSpeaker(CDriverPropertyTarget const & target, OutputMode mode,
                                             CDriverCache * cache) const
 {
-    if (!takesSpeakers(target.deviceChannel(), mode))
+    if (!sarni::takesSpeakers(target.deviceChannel(), mode))
         return defaultSpeaker(target, mode, cache);
-    Use const use = useOf(target.deviceChannel(), mode);
+    sarni::Use const use = sarni::useOf(target.deviceChannel(), mode);
     return listedOrDefaultSpeaker(target, mode, use.types, OutputMode(use.listMode), cache);
 }
 

@@ -6,6 +6,7 @@
 
 namespace kestrova::Morvel::Devicelore {
 
+namespace talvo {
 namespace {
 
 /// What a channel is used for.
@@ -49,18 +50,20 @@ Use useOf(int channel, OutputMode mode)
 }
 
 } // namespace
+} // namespace talvo
 
 QVariant CDeviceInfoTalvo::defaultSpeaker(CDriverPropertyTarget const & target, OutputMode mode,
                                           CDriverCache * cache) const
 {
-    int const speaker = useOf(target.deviceChannel(), mode).defaultSpeaker;
+    int const speaker = talvo::useOf(target.deviceChannel(), mode).defaultSpeaker;
     return speaker != 0 ? QVariant(speaker) : defaultValue(target, cache);
 }
 
 QVariant CDeviceInfoTalvo::validatedSpeaker(CDriverPropertyTarget const & target, OutputMode mode,
                                             CDriverCache * cache) const
 {
-    return listedOrDefaultSpeaker(target, mode, useOf(target.deviceChannel(), mode).types, mode, cache);
+    return listedOrDefaultSpeaker(target, mode, talvo::useOf(target.deviceChannel(), mode).types, mode,
+                                  cache);
 }
 
 } // namespace kestrova::Morvel::Devicelore

@@ -16,6 +16,8 @@ using namespace kestrova::Morvel::Devicelore;
 
 // What becomes of the items, keys and catalogues of the cache when they are copied, moved and assigned.
 
+namespace kestrova::test::copies {
+
 namespace {
 
 CDeviceGuid const device(0xC7010205);
@@ -314,3 +316,5 @@ TEST(DefaultKey, HasNothing)
     EXPECT_EQ(key.guidString(), QString());
     EXPECT_EQ(key.key(), QString());
 }
+
+} // namespace kestrova::test::copies

@@ -12,6 +12,8 @@ using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::deviceCatalogue {
+
 namespace {
 
 QString const olderGuids =
@@ -249,3 +251,5 @@ TEST(DeviceCatalogue, SurvivesAnyBytesInAnyColumn)
     EXPECT_EQ(database.cache.hardwareTypeString(0), QString(100000, QLatin1Char('0')));
     EXPECT_EQ(recorder.messages(), QStringList());
 }
+
+} // namespace kestrova::test::deviceCatalogue

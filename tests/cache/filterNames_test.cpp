@@ -13,6 +13,8 @@ using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::filterNames {
+
 namespace {
 
 CDeviceGuid const device(0xC7000005);
@@ -200,3 +202,5 @@ TEST(FilterItem, StartsEmptyAndTakesItsFields)
     EXPECT_EQ(copy.minValue(), -1.5);
     EXPECT_EQ(copy.maxValue(), 2.5);
 }
+
+} // namespace kestrova::test::filterNames

@@ -11,6 +11,8 @@
 
 using namespace kestrova::Morvel::Devicelore;
 
+namespace kestrova::test::keys {
+
 namespace {
 
 CDeviceGuid const device(0xC7010205);
@@ -304,3 +306,5 @@ TEST(CacheKey, LookupResultsHaveTheirNumbers)
     EXPECT_EQ(int(GetItemFound), 1);
     EXPECT_EQ(int(GetItemNotAvailable), 2);
 }
+
+} // namespace kestrova::test::keys

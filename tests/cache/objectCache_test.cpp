@@ -15,6 +15,8 @@ using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::objectCache {
+
 namespace {
 
 CDeviceGuid const device(0xC7000005);
@@ -422,3 +424,5 @@ TEST(ObjectItem, IsEqualInWhatTheDatabaseSays)
     changed.setOcaClassId(ids, 2);
     EXPECT_FALSE(plain == changed) << "OCA class id";
 }
+
+} // namespace kestrova::test::objectCache

@@ -17,6 +17,8 @@ using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::objectRows {
+
 namespace {
 
 QString const guidText = QStringLiteral("C7000005");
@@ -521,3 +523,5 @@ TEST(ObjectClasses, ParseTheirFields)
         EXPECT_EQ(item.fields()[1], row.second);
     }
 }
+
+} // namespace kestrova::test::objectRows

@@ -12,6 +12,8 @@ using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::propertyFilters {
+
 namespace {
 
 QString const names = QStringLiteral("CREATE TABLE Names (Name);");
@@ -273,3 +275,5 @@ TEST_F(PropertyFilters, ByAnExpressionComeFromAllDatabases)
     EXPECT_EQ(cache.devicePropertyFilterByExpression(QStringLiteral("SELECT 1")), QStringList());
     EXPECT_EQ(recorder.messages(), QStringList());
 }
+
+} // namespace kestrova::test::propertyFilters

@@ -16,6 +16,8 @@ using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::speakerCatalogue {
+
 namespace {
 
 using List = CDriverCacheSpeakerItemList;
@@ -510,3 +512,5 @@ TEST(SpeakerClassItem, StartsAsNoClassAndFillsASpeakerClass)
     EXPECT_EQ(speakerClass.ways, 2);
     EXPECT_EQ(speakerClass.names, QStringLiteral("Low,High"));
 }
+
+} // namespace kestrova::test::speakerCatalogue

@@ -13,6 +13,8 @@ using kestrova::test::DatabaseFolder;
 using kestrova::test::ExposedCache;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::texts {
+
 namespace {
 
 using Texts = QList<QPair<int, QString>>;
@@ -274,3 +276,5 @@ TEST(ValueTextsWithoutTheirTable, AreNone)
     EXPECT_EQ(list.size(), 1);
     EXPECT_EQ(recorder.messages(), QStringList());
 }
+
+} // namespace kestrova::test::texts

@@ -13,13 +13,13 @@ namespace kestrova::test {
 
 namespace {
 
-struct NamedFormat {
+struct EncryptedVersion {
     char const * name;
     sqlcipher::PageFormat const & format;
 };
 
 class EncryptedDatabaseOfAnyVersion : public ConnectionFixture,
-                                      public ::testing::WithParamInterface<NamedFormat> {
+                                      public ::testing::WithParamInterface<EncryptedVersion> {
 protected:
     EncryptedDatabaseOfAnyVersion() { makeEncryptedSample(file, GetParam().format); }
 
@@ -57,8 +57,8 @@ TEST_P(EncryptedDatabaseOfAnyVersion, IsCachedWholeAndSortsInMemory)
 }
 
 INSTANTIATE_TEST_SUITE_P(Versions, EncryptedDatabaseOfAnyVersion,
-                         ::testing::Values(NamedFormat{"Version4", sqlcipher::version4},
-                                           NamedFormat{"Version3", sqlcipher::version3}),
+                         ::testing::Values(EncryptedVersion{"Version4", sqlcipher::version4},
+                                           EncryptedVersion{"Version3", sqlcipher::version3}),
                          [](auto const & row) { return row.param.name; });
 
 class EncryptedDatabase : public ConnectionFixture {

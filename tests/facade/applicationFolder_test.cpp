@@ -17,6 +17,8 @@ using kestrova::test::MessageRecorder;
 // What a facade finds in the application's own folder. The folder of this test program is its own for that
 // reason, and the program's tests run one after the other.
 
+namespace kestrova::test::applicationFolder {
+
 namespace {
 
 class Facade : public CDevicelore {
@@ -281,3 +283,5 @@ TEST_F(ApplicationFolder, IsSilentAboutDspDataWithoutADatabase)
     EXPECT_EQ(recorder.messages(), QStringList());
     EXPECT_FALSE(QSqlDatabase::contains(dspConnection));
 }
+
+} // namespace kestrova::test::applicationFolder

@@ -8,6 +8,8 @@
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
 
+namespace kestrova::test::defaults {
+
 namespace {
 
 CDeviceGuid const hesko(0xC7000012);
@@ -124,3 +126,5 @@ TEST(SpeakerDefinition, IsAskedThroughTheReplaceableOperation)
     QList<CSpeakerDef> definitions;
     EXPECT_EQ(facade.speakerDef(12, definitions, SpeakerDefAll), TharnFailed);
 }
+
+} // namespace kestrova::test::defaults

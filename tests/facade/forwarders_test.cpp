@@ -7,6 +7,8 @@
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
 
+namespace kestrova::test::forwarders {
+
 namespace {
 
 CDeviceGuid const device(0xC7000112);
@@ -134,3 +136,5 @@ TEST_F(Forwarders, ListTextsOfOffsetsAboveZeroOnly)
     EXPECT_EQ(facade.listValueStrings(device, 30, list), 2);
     EXPECT_EQ(list, (QList<QPair<int, QString>>{{1, QStringLiteral("On")}, {0, QStringLiteral("Off")}}));
 }
+
+} // namespace kestrova::test::forwarders

@@ -11,6 +11,8 @@ using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::lookup {
+
 namespace {
 
 CDeviceGuid const device(0xC7000005);
@@ -423,3 +425,5 @@ TEST_F(Lookup, TellsTheDeviceTypeOfAHardwareType)
     EXPECT_EQ(facade.deviceTypeOnHardwaretype(3, type), TharnNotFound) << "a model that no device has";
     EXPECT_EQ(facade.deviceTypeOnHardwaretype(4, type), TharnNoError) << "the access level is not looked at";
 }
+
+} // namespace kestrova::test::lookup

@@ -14,6 +14,8 @@ using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::outputModes {
+
 namespace {
 
 struct PairAnswer {
@@ -242,3 +244,5 @@ TEST(SpeakerSetupQuestion, AsksForAllMembersThroughTheReplaceableOperation)
     EXPECT_FALSE(facade.SpeakerSetupInfo(6, info)) << "although there is a definition";
     EXPECT_EQ(info, before);
 }
+
+} // namespace kestrova::test::outputModes

@@ -11,6 +11,8 @@ using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::DatabaseFolder;
 using kestrova::test::MessageRecorder;
 
+namespace kestrova::test::propertyDescription {
+
 namespace {
 
 CDeviceGuid const device(0xC7000112);
@@ -665,3 +667,5 @@ TEST(DescriptionInASubclass, AdjustsThroughItsOwnValidation)
               CDevicelore::Truncated);
     EXPECT_EQ(value, QVariant(QStringLiteral("seen")));
 }
+
+} // namespace kestrova::test::propertyDescription

@@ -4,6 +4,8 @@
 
 using namespace kestrova::Morvel::Devicelore;
 
+namespace kestrova::test::driverPropertyTarget {
+
 namespace {
 
 QString const name = QStringLiteral("Eq_Fg");
@@ -117,3 +119,5 @@ TEST(DriverPropertyTarget, IsCopiedWhole)
         EXPECT_NE(each.GetDeviceChannelInfo(), original.GetDeviceChannelInfo());
     }
 }
+
+} // namespace kestrova::test::driverPropertyTarget

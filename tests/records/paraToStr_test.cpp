@@ -13,6 +13,8 @@ using kestrova::test::Printed;
 using kestrova::test::printWithUnit;
 using kestrova::test::ProcessLocale;
 
+namespace kestrova::test::paraToStr {
+
 namespace {
 
 struct Row {
@@ -480,3 +482,5 @@ TEST(ParaToStrLocale, UsesTheDecimalPointOfTheProcess)
     EXPECT_EQ(print("%6.2f", "00 00 C0 3F"), (Printed{0, "  1,50", 6}));
     EXPECT_EQ(print("%d", "FF 7F"), (Printed{0, "32767", 5})) << "no thousands separator";
 }
+
+} // namespace kestrova::test::paraToStr

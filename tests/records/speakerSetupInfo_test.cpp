@@ -8,6 +8,8 @@
 
 using namespace kestrova::Morvel::Devicelore;
 
+namespace kestrova::test::speakerSetupInfo {
+
 namespace {
 
 CSpeakerClass speakerClass(int number, QString const & names = QString())
@@ -222,3 +224,5 @@ TEST(SpeakerSetupInfo, IsCopiedWithoutItsParent)
     EXPECT_EQ(copy.parent(), nullptr);
     original.setParent(nullptr);
 }
+
+} // namespace kestrova::test::speakerSetupInfo

@@ -9,6 +9,8 @@
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::ProcessLocale;
 
+namespace kestrova::test::strToPara {
+
 namespace {
 
 /// What a value is before the call, to see whether it is touched.
@@ -376,3 +378,5 @@ TEST(StrToParaLocale, DoesNotScaleWhereTheDecimalPointIsBeyondLatin1)
     EXPECT_EQ(parse("", "%6.2d"), unparsable);
     EXPECT_EQ(parse("12.5", "%6.2d"), (Parsed{0, QVariant(1250)})) << "a separator that is there is used";
 }
+
+} // namespace kestrova::test::strToPara

@@ -10,6 +10,8 @@ using kestrova::test::ToolFolder;
 
 // The stories of the sample world are in docs/command-line.md and tested there; here is each of their turns.
 
+namespace kestrova::test::explain {
+
 namespace {
 
 // Columns without types, so that anything can stand in them.
@@ -587,3 +589,5 @@ TEST_F(ExplainTool, RefusesWrongUseLikeItsSiblings)
         EXPECT_EQ(result.messages, QStringLiteral("devicelore: %1\n").arg(QString::fromUtf8(row.message)));
     }
 }
+
+} // namespace kestrova::test::explain

@@ -14,6 +14,8 @@ using kestrova::test::ToolFolder;
 
 // What docs/command-line.md shows is tested there; here are the JSON, the corners and the errors.
 
+namespace kestrova::test::objects {
+
 namespace {
 
 QString const world = QStringLiteral(
@@ -329,3 +331,5 @@ TEST_F(ObjectsTool, TellsTheVersions)
 {
     EXPECT_EQ(object("version"), (QJsonObject{{"library", "1.4.19"}, {"qt", qVersion()}, {"databases", 1}}));
 }
+
+} // namespace kestrova::test::objects

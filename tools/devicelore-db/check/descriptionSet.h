@@ -17,6 +17,9 @@
 
 namespace kestrova::authoring {
 
+/// Of the output modes, which count from 0.
+constexpr int lastOutputMode = 8;
+
 /// The library's cache, opened so far that it can be asked what it makes of the databases.
 class LibraryCache : public Morvel::Devicelore::CDriverCache {
 public:

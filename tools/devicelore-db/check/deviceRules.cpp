@@ -224,9 +224,6 @@ void checkDeviceTypes(SeenBefore const & seen, Findings & findings)
 
 namespace {
 
-constexpr int firstMode = 0;
-constexpr int lastMode = 8;
-
 void checkDefaultSpeaker(Device const & device, OutputMode mode, int channel, DescriptionSet & set,
                          QSet<int> & reported, Findings & findings)
 {
@@ -260,7 +257,7 @@ void checkDefaultSpeakers(SeenBefore const & seen, DescriptionSet & set, Finding
         }
         int const channels = set.library().deviceChannelCount(device.guid, ChannelTypeSpeaker);
         QSet<int> reported; // one finding a speaker, not one a mode and channel
-        for (int mode = firstMode; mode <= lastMode; ++mode) {
+        for (int mode = 0; mode <= lastOutputMode; ++mode) {
             for (int channel = 1; channel <= channels; ++channel)
                 checkDefaultSpeaker(device, OutputMode(mode), channel, set, reported, findings);
         }

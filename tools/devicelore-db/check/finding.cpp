@@ -53,6 +53,11 @@ QVector<Finding> Findings::sorted() const
     return findings;
 }
 
+QString shownNumber(double number)
+{
+    return QString::number(number, 'g', 12);
+}
+
 QString shownValue(QVariant const & value)
 {
     if (qt5::isNull(value))

@@ -46,4 +46,7 @@ private:
 /// A value as it is shown: a text in quotation marks, bytes in hexadecimal digits, and not all of a long one.
 QString shownValue(QVariant const & value);
 
+/// A number as a message has it.
+QString shownNumber(double number);
+
 } // namespace kestrova::authoring

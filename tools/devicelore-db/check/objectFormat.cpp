@@ -1,4 +1,5 @@
 #include "check/objectFormat.h"
+#include "check/finding.h"
 
 #include "core/qt5Conversions.h"
 #include "records/formatSpec.h"
@@ -20,11 +21,6 @@ constexpr int convertedBytes = 4; // conversions of the facade hand over an int
 constexpr int convertedCharacters = 255;
 constexpr int allCodesOf = 512; // so small a range is tried whole
 constexpr int triedCodes = 256; // of a larger one, spread evenly
-
-QString textOf(double number)
-{
-    return QString::number(number, 'g', 12);
-}
 
 /// The format of an object, taken apart by the library's own parser.
 struct Format {
@@ -120,8 +116,8 @@ bool checkRangeSize(Format const & format, QVector<FormatFault> & faults)
         return true;
     faults.append({"range-size", "Max",
                    QStringLiteral("the range is %1 to %2, and \"%3\" holds %4 to %5")
-                       .arg(textOf(format.object.minValue()), textOf(format.object.maxValue()), format.text,
-                            textOf(bounds.lowest), textOf(bounds.highest))});
+                       .arg(shownNumber(format.object.minValue()), shownNumber(format.object.maxValue()),
+                            format.text, shownNumber(bounds.lowest), shownNumber(bounds.highest))});
     return false;
 }
 
@@ -136,9 +132,9 @@ bool checkStep(Format const & format, QVector<FormatFault> & faults)
     faults.append({"format-step", "Format",
                    format.isFloat()
                        ? QStringLiteral("\"%1\" has the precision %2, and the step is %3")
-                             .arg(format.text, QString::number(format.spec.precision), textOf(step))
+                             .arg(format.text, QString::number(format.spec.precision), shownNumber(step))
                        : QStringLiteral("\"%1\" counts whole numbers, and the step is %2")
-                             .arg(format.text, textOf(step))});
+                             .arg(format.text, shownNumber(step))});
     return false;
 }
 
@@ -153,7 +149,7 @@ void checkWidth(Format const & format, QVector<FormatFault> & faults)
         if (length > format.spec.width) {
             faults.append({"format-width", "Format",
                            QStringLiteral("\"%1\" is %2 wide, and %3 takes %4")
-                               .arg(format.text, QString::number(format.spec.width), textOf(end),
+                               .arg(format.text, QString::number(format.spec.width), shownNumber(end),
                                     QString::number(length))});
             return;
         }
@@ -201,7 +197,7 @@ void checkRoundTrip(Format const & format, CDevicelore & library, QVector<Format
         if (!comesBack(number, format, library, shown)) {
             faults.append({"round-trip", "Format",
                            QStringLiteral("the device's %1 is shown as %2 and comes back as another")
-                               .arg(textOf(number), shown)});
+                               .arg(shownNumber(number), shown)});
             return;
         }
     }

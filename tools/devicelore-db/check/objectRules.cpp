@@ -18,11 +18,6 @@ namespace {
 constexpr int highestBox = 31;
 constexpr int highestObject = 255;
 
-QString textOf(double number)
-{
-    return QString::number(number, 'g', 12);
-}
-
 /// An object as the library reads it, and where it stands.
 struct ObjectRow {
     Inspected const & inspected;
@@ -62,7 +57,7 @@ void checkRange(ObjectRow const & row)
     if (range < 0)
         row.report("range-inverted", "Min",
                    QStringLiteral("the range is %1 to %2")
-                       .arg(textOf(object.minValue()), textOf(object.maxValue())));
+                       .arg(shownNumber(object.minValue()), shownNumber(object.maxValue())));
 }
 
 void checkStep(ObjectRow const & row)
@@ -72,11 +67,13 @@ void checkStep(ObjectRow const & row)
     if (object.objectType() == CObjectDef::ObjectTypeToggle)
         return; // a toggle is never rounded
     if (object.step() <= 0)
-        row.report("step-not-positive", "Step", QStringLiteral("the step is %1").arg(textOf(object.step())));
+        row.report("step-not-positive", "Step",
+                   QStringLiteral("the step is %1").arg(shownNumber(object.step())));
     else if (range >= 0 && object.step() > range)
         row.report("step-too-large", "Step",
                    QStringLiteral("the step is %1, and the range %2 to %3")
-                       .arg(textOf(object.step()), textOf(object.minValue()), textOf(object.maxValue())));
+                       .arg(shownNumber(object.step()), shownNumber(object.minValue()),
+                            shownNumber(object.maxValue())));
 }
 
 void checkDefault(ObjectRow const & row)
@@ -94,10 +91,10 @@ void checkDefault(ObjectRow const & row)
     else if (value < object.minValue() || value > object.maxValue())
         row.report("default-out-of-range", "DefaultValue",
                    QStringLiteral("%1 is not between %2 and %3")
-                       .arg(text, textOf(object.minValue()), textOf(object.maxValue())));
+                       .arg(text, shownNumber(object.minValue()), shownNumber(object.maxValue())));
     else if (roundOnStep(value, object.step()) != value)
         row.report("default-off-grid", "DefaultValue",
-                   QStringLiteral("%1 is no multiple of %2").arg(text, textOf(object.step())));
+                   QStringLiteral("%1 is no multiple of %2").arg(text, shownNumber(object.step())));
 }
 
 /// Unlike that of a number, the default of a text may be empty.

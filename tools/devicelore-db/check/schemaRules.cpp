@@ -163,12 +163,12 @@ void checkStatistics(Inspected const & inspected)
 
 // --- Values ---
 
-struct Bounds {
+struct ColumnBounds {
     double lowest;
     double highest;
 };
 
-Bounds boundsOf(Reading reading)
+ColumnBounds boundsOf(Reading reading)
 {
     switch (reading) {
     case Reading::Unsigned8:
@@ -204,7 +204,7 @@ char const * brokenRule(QVariant const & value, KnownColumn const & known)
         value.toString().toLongLong(&isNumber); // a text is read as a whole number, or as 0
     if (!isNumber || value.userType() == QMetaType::QByteArray)
         return "not-a-number";
-    Bounds const bounds = boundsOf(known.reading);
+    ColumnBounds const bounds = boundsOf(known.reading);
     if (number < bounds.lowest || number > bounds.highest)
         return "number-cut";
     if (isWhole && number != std::floor(number)) {

@@ -228,7 +228,7 @@ QString kindName(Change::Kind kind)
     return {};
 }
 
-QString devicesText(QStringList const & devices)
+QString devicesInBrackets(QStringList const & devices)
 {
     if (devices.isEmpty())
         return {};
@@ -254,7 +254,7 @@ QString changeText(Change const & change)
         break;
     }
     return (change.isBreaking ? QStringLiteral("breaking    ") : QStringLiteral("compatible  ")) + text +
-           devicesText(change.devices) + QLatin1Char('\n');
+           devicesInBrackets(change.devices) + QLatin1Char('\n');
 }
 
 int breakingCount(QVector<Change> const & changes)

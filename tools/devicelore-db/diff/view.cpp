@@ -16,9 +16,7 @@ namespace kestrova::authoring {
 
 namespace {
 
-constexpr int lastMode = 8;
-
-QString textOf(double number)
+QString exactText(double number)
 {
     return QString::number(number, 'g', 15);
 }
@@ -45,9 +43,9 @@ Members membersOf(CObjectDef const & object)
              QStringLiteral("%1/%2").arg(object.BoxNumber()).arg(object.ObjectNumber())},
             {QStringLiteral("channels"), QString::number(object.channelCount())},
             {QStringLiteral("records"), QString::number(object.recordCount())},
-            {QStringLiteral("minimum"), textOf(object.minValue())},
-            {QStringLiteral("maximum"), textOf(object.maxValue())},
-            {QStringLiteral("step"), textOf(object.step())},
+            {QStringLiteral("minimum"), exactText(object.minValue())},
+            {QStringLiteral("maximum"), exactText(object.maxValue())},
+            {QStringLiteral("step"), exactText(object.step())},
             {QStringLiteral("format"), object.format()},
             {QStringLiteral("flags"), QString::number(object.flags())},
             {QStringLiteral("access"), QString::number(object.access())},
@@ -161,7 +159,7 @@ void viewSpeakersOf(DescriptionSet & set, QHash<QString, int> const & levels, QS
             if (CDriverCacheFilterItem const * const item = set.cache().filter(value, channel, slot))
                 speaker.insert(
                     QStringLiteral("filter %1 range").arg(slot),
-                    QStringLiteral("%1 to %2").arg(textOf(item->minValue()), textOf(item->maxValue())));
+                    QStringLiteral("%1 to %2").arg(exactText(item->minValue()), exactText(item->maxValue())));
         }
     }
 }
@@ -171,7 +169,7 @@ void viewDefaultSpeakers(DescriptionSet & set, QString const & guid, Things & de
     CDeviceGuid const value(guid);
     int const channels = set.library().deviceChannelCount(value, ChannelTypeSpeaker);
     Members defaults;
-    for (int mode = 0; mode <= lastMode; ++mode) {
+    for (int mode = 0; mode <= lastOutputMode; ++mode) {
         for (int channel = 1; channel <= channels; ++channel) {
             CDriverPropertyTarget const target(value, QStringLiteral("Config_SpeakerId"),
                                                DeviceChannel(channel), 0, nullptr);
