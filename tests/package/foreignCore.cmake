@@ -11,7 +11,7 @@ endif()
 set(key "00112233445566778899aabbccddeeff00112233445566778899aabbccddeeff")
 set(configure "${CMAKE_COMMAND}" -G "${GENERATOR}" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}"
     "-DCMAKE_CXX_COMPILER_LAUNCHER=${CXX_COMPILER_LAUNCHER}" "-DKESTROVA_QT=${QT}"
-    -DBUILD_TESTING=OFF)
+    -DBUILD_TESTING=OFF -DCMAKE_UNITY_BUILD=ON)
 
 # expect(TEXT): ends the test unless the last run() printed this.
 function(expect text)
