@@ -21,6 +21,18 @@ CVersionNumber readVersion(QSqlDatabase const & db)
     return version;
 }
 
+/// Reads all rows of a statement that has been executed. False when it fails on the way.
+bool readWhole(QSqlQuery & query)
+{
+    query.last();
+    if (query.lastError().isValid()) {
+        query.next(); // behind the rows that came before the failure
+        return false;
+    }
+    query.seek(QSql::BeforeFirstRow);
+    return true;
+}
+
 } // namespace
 
 QSqlDatabase openConnection(QString const & connectionName)
@@ -42,23 +54,22 @@ QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement)
 {
     QSqlQuery query(db);
     // Qt would complain about a closed database and an empty statement
-    if (db.isOpen() && !statement.isEmpty() && query.prepare(statement))
-        executeWhole(query);
+    if (db.isOpen() && !statement.isEmpty())
+        executeWhole(query, statement);
     return query;
 }
 
 bool executeWhole(QSqlQuery & query)
 {
     query.setForwardOnly(false); // so that Qt keeps the rows
-    if (!query.exec())
-        return false;
-    query.last();
-    if (query.lastError().isValid()) {
-        query.next(); // behind the rows that came before the failure
-        return false;
-    }
-    query.seek(QSql::BeforeFirstRow);
-    return true;
+    return query.exec() && readWhole(query);
+}
+
+bool executeWhole(QSqlQuery & query, QString const & statement)
+{
+    query.setForwardOnly(false);
+    // Not prepared, where Qt would take a ":word" in a comment for the place of a value.
+    return query.exec(statement) && readWhole(query);
 }
 
 QStringList firstColumn(QSqlQuery && rows)

@@ -13,13 +13,17 @@ namespace kestrova::Morvel::Devicelore {
 /// none any more because it could not be opened again. Nothing is logged.
 QSqlDatabase openConnection(QString const & connectionName);
 
-/// The rows of a complete statement, to be walked with next(). A statement that fails has none, and leaves
-/// the query inactive. Nothing is logged, also when the statement is empty or \a db closed or invalid.
+/// The rows of a complete statement, to be walked with next(). A statement that fails has none, and one that
+/// has a place for a value fails. Nothing is logged, also when the statement is empty or \a db closed or
+/// invalid.
 QSqlQuery queryRows(QSqlDatabase const & db, QString const & statement);
 
 /// Executes a prepared statement and reads all its rows, then to be walked with next(): a statement that
 /// fails on the way has as few as one that fails at once. False when it fails, and lastError() says why.
 bool executeWhole(QSqlQuery & query);
+
+/// The same with a complete statement, as it stands. Qt complains when it is empty or the database closed.
+bool executeWhole(QSqlQuery & query, QString const & statement);
 
 /// The first value of each row, from the current place on, as text.
 QStringList firstColumn(QSqlQuery && rows);

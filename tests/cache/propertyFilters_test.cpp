@@ -181,6 +181,42 @@ TEST_F(PropertyFilters, WithFaultyStatementsHaveNoProperties)
     EXPECT_EQ(recorder.messages(), QStringList());
 }
 
+struct ExecutedStatement {
+    char const * name;
+    char const * sql;
+    QStringList properties;
+};
+
+TEST_F(PropertyFilters, ExecuteTheirStatementsAsTheyStand)
+{
+    QStringList const both{QStringLiteral("Eq_Fg"), QStringLiteral("Eq_Q")};
+    ExecutedStatement const rows[] = {
+        {"WordInAComment", "SELECT Name FROM Names /* doc:x */", both},
+        {"WordInAHead", "/* see :manual, $1 and @2? */ SELECT Name FROM Names", both},
+        {"WordAtTheEndOfALine", "SELECT Name -- :all\nFROM Names", both},
+        {"WordInAName", R"sql(SELECT Name AS ":x" FROM Names)sql", both},
+        {"WordInAText", "SELECT ':x?'", {QStringLiteral(":x?")}},
+        {"Semicolon", "SELECT Name FROM Names ; ", both},
+        {"NamedPlace", "SELECT coalesce(:x, 'n')", {}},
+        {"PlaceOfAnotherKind", "SELECT coalesce($x, @y, 'n')", {}},
+        {"Place", "SELECT coalesce(?, 'n')", {}},
+        {"NumberedPlace", "SELECT coalesce(?2, 'n')", {}},
+        {"PlaceThatDecidesNothing", "SELECT Name FROM Names WHERE 1 OR Name = :x", {}},
+    };
+    QString sql = names + table + QStringLiteral("INSERT INTO Names VALUES ('Eq_Fg'), ('Eq_Q');");
+    for (ExecutedStatement const & row : rows)
+        sql += QStringLiteral("INSERT INTO DevicePropertyFilter VALUES ('%1', '%2', 0);")
+                   .arg(QLatin1String(row.name),
+                        QString::fromLatin1(row.sql).replace(QStringLiteral("'"), QStringLiteral("''")));
+    folder.add(QStringLiteral("a.db3"), sql);
+    open();
+    for (ExecutedStatement const & row : rows) {
+        EXPECT_EQ(cache.devicePropertyFilter(QLatin1String(row.name)), row.properties) << row.name;
+        EXPECT_EQ(cache.devicePropertyFilterByExpression(QLatin1String(row.sql)), row.properties) << row.name;
+    }
+    EXPECT_EQ(recorder.messages(), QStringList());
+}
+
 TEST_F(PropertyFilters, ThatCannotBeReadAreReportedAndSkipped)
 {
     folder.add(QStringLiteral("a.db3"),

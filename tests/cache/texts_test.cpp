@@ -155,7 +155,7 @@ TEST_F(ValueTexts, AreMissingInALanguageThatIsNoColumn)
     Texts const before{{99, QStringLiteral("before")}};
     for (QString const & language :
          {QStringLiteral("TextShort_fr_FR"), QString(), QStringLiteral("'"), QStringLiteral("%2"),
-          QStringLiteral("x; DROP TABLE TextsObjectValues")}) {
+          QStringLiteral(":TextShort_en_US"), QStringLiteral("x; DROP TABLE TextsObjectValues")}) {
         cache.setTextLanguage(language);
         EXPECT_TRUE(cache.text(device, 10, 0).isNull()) << qPrintable(language);
         Texts list = before;
@@ -163,6 +163,13 @@ TEST_F(ValueTexts, AreMissingInALanguageThatIsNoColumn)
         EXPECT_EQ(list, before) << qPrintable(language);
     }
     cache.setTextLanguage(QStringLiteral("TextShort_de_DE"));
+    EXPECT_EQ(cache.text(device, 10, 0), QStringLiteral("Aus"));
+    EXPECT_EQ(recorder.messages(), QStringList());
+}
+
+TEST_F(ValueTexts, AreReadInALanguageThatGoesIntoTheStatementAsItStands)
+{
+    cache.setTextLanguage(QStringLiteral("TextShort_de_DE /* see :de */"));
     EXPECT_EQ(cache.text(device, 10, 0), QStringLiteral("Aus"));
     EXPECT_EQ(recorder.messages(), QStringList());
 }

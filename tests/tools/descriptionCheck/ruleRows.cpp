@@ -185,6 +185,9 @@ std::vector<BadRow> const & badRows()
         {"group-faulty", "INSERT INTO DevicePropertyFilter VALUES ('Asking', 'SELECT ?', 1)", "", "",
          "a.db3, DevicePropertyFilter, Expression, Asking: Parameter count mismatch [group-faulty]"},
         {"group-faulty",
+         "INSERT INTO DevicePropertyFilter VALUES ('Named', 'SELECT coalesce(:x, ''Gain'')', 1)", "", "",
+         "a.db3, DevicePropertyFilter, Expression, Named: Parameter count mismatch [group-faulty]"},
+        {"group-faulty",
          "INSERT INTO DevicePropertyFilter VALUES ('Endless', 'WITH RECURSIVE c(i) AS (SELECT 1 UNION ALL "
          "SELECT i + 1 FROM c) SELECT i FROM c', 1)",
          "", "", "a.db3, DevicePropertyFilter, Expression, Endless: interrupted [group-faulty]"},
@@ -469,6 +472,7 @@ std::vector<GoodRow> const & goodRows()
         {"format-size", "UPDATE Objects SET Format = '%s', Size = 16 WHERE id = 2", ""},
         {"format-size", "UPDATE Objects SET Size = 256 WHERE id = 2", ""},
         {"group-faulty", "UPDATE DevicePropertyFilter SET Expression = ' SELECT ''Gain'' ; '", ""},
+        {"group-faulty", "UPDATE DevicePropertyFilter SET Expression = 'SELECT ''Gain'' /* doc:x */'", ""},
         {"index-missing", "DROP INDEX ObjectsByName; CREATE UNIQUE INDEX i ON Objects (Name DESC)", ""},
         {"index-missing", "DROP INDEX ObjectsByName; CREATE INDEX i ON Objects (Name) WHERE Name IS NOT NULL",
          ""},

@@ -45,7 +45,7 @@ QString troubleOf(QSqlQuery & query, QString const & expression)
 {
     if (expression.trimmed().isEmpty()) // of which Qt would complain
         return QStringLiteral("there is no statement");
-    return query.prepare(expression) && executeWhole(query) ? QString() : reasonOf(query.lastError());
+    return executeWhole(query, expression) ? QString() : reasonOf(query.lastError());
 }
 
 void checkGroup(Inspected const & inspected, Table const & groups, int row)
