@@ -65,8 +65,9 @@ void convertDefaultValue(CObjectDef & object)
     QVariant const value = object.defaultValue();
     bool isNumber = false;
     double const number = qt5::toDouble(value, &isNumber);
-    // A null value of a numeric type converts to 0, and yet says no number.
-    object.setDefaultValue(isNumber && !value.isNull() ? number : fallbackDefault(object));
+    // A null value of another numeric type reads as 0 as well, but QVariant::convert() refuses it.
+    bool const converts = isNumber && (!value.isNull() || value.userType() == QMetaType::Double);
+    object.setDefaultValue(converts ? number : fallbackDefault(object));
 }
 
 } // namespace

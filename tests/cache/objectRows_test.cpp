@@ -287,11 +287,15 @@ TEST(ObjectRow, MakesANumberOfTheDefaultValueThatTheRecordBrought)
                        "'', '', 0, 0, 0); INSERT INTO guidsandobjects VALUES (1, 'C7000005');"));
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     QVariant const nullInt(QVariant::Int);
+    QVariant const nullDouble(QVariant::Double);
 #else
     QVariant const nullInt(QMetaType::fromType<int>());
+    QVariant const nullDouble(QMetaType::fromType<double>());
 #endif
     ASSERT_EQ(nullInt.userType(), int(QMetaType::Int));
     ASSERT_TRUE(nullInt.isNull());
+    ASSERT_EQ(nullDouble.userType(), int(QMetaType::Double));
+    ASSERT_TRUE(nullDouble.isNull());
 
     struct Row {
         char const * name;
@@ -302,6 +306,7 @@ TEST(ObjectRow, MakesANumberOfTheDefaultValueThatTheRecordBrought)
     Row const rows[] = {
         {"a text", QStringLiteral("5.5"), 5.5},
         {"an int", 3, 3.0},
+        {"a null double is 0, though it lies outside the range", nullDouble, 0.0},
         {"a null int is no number", nullInt, 2.0},
         {"nothing", QVariant(), 2.0},
     };
