@@ -151,6 +151,31 @@ TEST_F(ConnectionFixture, OpensADatabaseOfSomeHundredViewsWithinViews)
     EXPECT_EQ(ask(QStringLiteral("SELECT * FROM v600")), "7");
 }
 
+/// A database with two views that have so many bytes together.
+void makeDatabaseWithViews(QString const & path, int bytes)
+{
+    QString const first = QStringLiteral("CREATE VIEW v AS SELECT 7 AS a");
+    QString const second = QStringLiteral("CREATE VIEW w AS SELECT 'ä%1' AS a");
+    int const unpadded = first.toUtf8().size() + second.toUtf8().size() - 2;
+    makeEncryptedDatabase(path, first + QLatin1Char(';') +
+                                    second.arg(QString(bytes - unpadded, QLatin1Char('x'))) +
+                                    QLatin1Char(';'));
+}
+
+TEST_F(ConnectionFixture, OpensADatabaseWithViewsOf32KiBAndNoByteMore)
+{
+    QString const file = path(QStringLiteral("views.db3"));
+    makeDatabaseWithViews(file, 32768);
+    ASSERT_TRUE(open(file));
+    EXPECT_EQ(ask(QStringLiteral("SELECT sum(length(CAST(sql AS BLOB))) FROM sqlite_master WHERE "
+                                 "type = 'view'")),
+              "32768");
+    EXPECT_EQ(ask(QStringLiteral("SELECT a FROM v")), "7");
+    makeDatabaseWithViews(file, 32769);
+    EXPECT_FALSE(open(file));
+    EXPECT_EQ(messages(), "");
+}
+
 /// The sample cut to \a size bytes; negative sizes count from the end.
 RefusedFile cut(char const * name, sqlcipher::PageFormat const & format, int size)
 {
