@@ -1,5 +1,7 @@
 #include "hardening/statementBudget.h"
 
+#include "hardening/touchedMemory.h"
+
 #include <algorithm>
 #include <memory>
 
@@ -18,6 +20,10 @@ constexpr int stepsPerCheck = 100;
 constexpr int overrunsForgiven = 3;
 constexpr sqlite3_int64 stepsAfterwards = 1'000'000;
 constexpr std::chrono::seconds timeAfterwards{3};
+
+/// By so many budgets all of the process's SQLite may grow, whoever takes them. What a statement takes of
+/// memory that the process has had before cannot be told from what others take.
+constexpr sqlite3_int64 budgetsOfTheProcess = 8;
 
 /// Larger files are not read whole.
 constexpr sqlite3_int64 largestPageCache = sqlite3_int64(256) * 1024 * 1024;
@@ -115,9 +121,21 @@ private:
         if (checks++ == 0) {
             start = Clock::now();
             memoryAtStart = sqlite3_memory_used();
+            touchedAtStart = bytesTouchedByThisThread();
         }
         return checks * stepsPerCheck > budget.steps || Clock::now() - start > budget.time ||
-               sqlite3_memory_used() - memoryAtStart > budget.memory + pageCache;
+               takesTooMuchMemory();
+    }
+
+    /// What SQLite counts for a connection is its page cache and no more: no sorting, no recursion, no value.
+    /// What it counts for the process is all of that, and the application's other connections besides. These
+    /// work on other threads.
+    bool takesTooMuchMemory() const
+    {
+        sqlite3_int64 const allowed = budget.memory + pageCache;
+        sqlite3_int64 const grown = sqlite3_memory_used() - memoryAtStart;
+        return grown > allowed && (bytesTouchedByThisThread() - touchedAtStart > allowed ||
+                                   grown / budgetsOfTheProcess > allowed);
     }
 
     /// SQLite says that a connection is to be closed before it looks for unfinished statements, and then may
@@ -138,6 +156,7 @@ private:
     sqlite3_int64 given = 0; ///< bytes in its rows
     Clock::time_point start;
     sqlite3_int64 memoryAtStart = 0;
+    sqlite3_int64 touchedAtStart = 0;
 };
 
 } // namespace

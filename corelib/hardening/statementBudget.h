@@ -15,8 +15,9 @@ struct StatementBudget {
     /// For steps that take long: on values of megabytes a single one takes milliseconds.
     std::chrono::milliseconds time = std::chrono::seconds(30);
     /// In bytes. By so much SQLite's memory may grow, beyond the size of the file for the page cache: sorting
-    /// and recursion hold their rows in memory. And so much may the rows hold that it gives, for whoever
-    /// collects them.
+    /// and recursion hold their rows in memory. What other threads do with SQLite meanwhile does not count,
+    /// unless all of it together is eight times as much. And so much may the rows hold that it gives, for
+    /// whoever collects them.
     sqlite3_int64 memory = sqlite3_int64(512) * 1024 * 1024;
 };
 

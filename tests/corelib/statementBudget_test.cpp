@@ -6,9 +6,9 @@
 #include "sampleDatabase.h"
 #include "support/sqlFile.h"
 
-#include <QFile>
 #include <QSqlDatabase>
 
+#include <cstring>
 #include <functional>
 #include <limits>
 #include <memory>
@@ -37,9 +37,12 @@ std::string countTo(int number)
 /// A connection of SQLite's own to a database, in memory unless told otherwise.
 class Database {
 public:
-    explicit Database(StatementBudget const & budget, QString const & path = QStringLiteral(":memory:"))
+    explicit Database(StatementBudget const & budget, QString const & path = QStringLiteral(":memory:"),
+                      void (*prepareFile)(sqlite3 *) = nullptr)
     {
         EXPECT_EQ(sqlite3_open(path.toUtf8().constData(), &handle), SQLITE_OK);
+        if (prepareFile)
+            prepareFile(handle);
         EXPECT_TRUE(hardening::holdToBudget(handle, budget));
     }
 
@@ -180,6 +183,83 @@ TEST(StatementBudget, EndsWhatTakesAllMemory)
     EXPECT_EQ(database.run(sortOf(100)), SQLITE_OK);
 }
 
+/// Memory of SQLite's that another thread has taken and written to, as for a database of its own.
+class MemoryOfAnotherThread {
+public:
+    explicit MemoryOfAnotherThread(int bytes)
+    {
+        std::thread([this, bytes] {
+            memory = sqlite3_malloc(bytes);
+            std::memset(memory, 1, static_cast<std::size_t>(bytes));
+        }).join();
+    }
+
+    ~MemoryOfAnotherThread() { sqlite3_free(memory); }
+
+    MemoryOfAnotherThread(MemoryOfAnotherThread const &) = delete;
+    MemoryOfAnotherThread & operator=(MemoryOfAnotherThread const &) = delete;
+
+private:
+    void * memory = nullptr;
+};
+
+/// What becomes of a statement during which another thread takes so many bytes.
+int resultBeside(int bytesOfAnotherThread)
+{
+    Database const database({noEnd, anHour, 67'108'864});
+    std::unique_ptr<MemoryOfAnotherThread> memory;
+    int ticks = 0;
+    std::function<void()> takeInTheMiddle = [&] {
+        if (++ticks == 1000)
+            memory = std::make_unique<MemoryOfAnotherThread>(bytesOfAnotherThread);
+    };
+    addTick(database, takeInTheMiddle);
+    return database.run("WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < 10000) "
+                        "SELECT sum(tick()) FROM c");
+}
+
+TEST(StatementBudget, DoesNotCountTheMemoryThatAnotherThreadTakes)
+{
+    EXPECT_EQ(resultBeside(100'000'000), SQLITE_OK);
+    EXPECT_EQ(resultBeside(500'000'000), SQLITE_OK);
+}
+
+TEST(StatementBudget, EndsAStatementBesideWhichTheProcessTakesEightTimesAsMuch)
+{
+    EXPECT_EQ(resultBeside(620'000'000), SQLITE_INTERRUPT);
+}
+
+TEST(StatementBudget, EndsWhatTakesMemoryInEveryOtherWay)
+{
+    static constexpr char counter[] =
+        "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < 100000) ";
+
+    struct Taking {
+        char const * name;
+        std::string sql;
+    };
+
+    Taking const rows[] = {
+        {"distinct rows", std::string(counter) + "SELECT DISTINCT randomblob(100000) FROM c"},
+        {"distinct values", std::string(counter) + "SELECT count(DISTINCT randomblob(100000)) FROM c"},
+        {"recursion", "WITH RECURSIVE c (i, b) AS (SELECT 1, randomblob(100000) UNION "
+                      "SELECT i + 1, randomblob(100000) FROM c) SELECT count(i) FROM c"},
+        {"a table of its own", std::string(counter) +
+                                   ", m AS MATERIALIZED (SELECT randomblob(100000) AS b FROM c) "
+                                   "SELECT count(x.b) FROM m x, m y"},
+        {"an array", std::string(counter) + "SELECT json_group_array(printf('%.*c', 100000, 'x')) FROM c"},
+        {"a text", std::string(counter) + "SELECT group_concat(printf('%.*c', 100000, 'x')) FROM c"},
+    };
+    for (Taking const & row : rows) {
+        Database const database({noEnd, anHour, 67'108'864});
+        ASSERT_EQ(database.run("PRAGMA temp_store = MEMORY"), SQLITE_OK);
+        sqlite3_memory_highwater(1);
+        EXPECT_EQ(database.run(row.sql), SQLITE_INTERRUPT) << row.name;
+        EXPECT_LT(sqlite3_memory_highwater(0), 400'000'000) << row.name;
+        EXPECT_EQ(database.run("SELECT 1"), SQLITE_OK) << row.name;
+    }
+}
+
 TEST(StatementBudget, EndsWhatGivesMoreThanMemoryHolds)
 {
     Database const database({noEnd, anHour, 64'000'000});
@@ -208,13 +288,25 @@ TEST(StatementBudget, OutlivesAnAttemptToCloseThatSqliteRefuses)
     sqlite3_finalize(unfinished);
 }
 
-TEST(StatementBudget, CountsAFileWithAHoleOnlyInPart)
+/// Lets the file of \a database say that it has 100 GiB, for which a test has no room.
+void pretendALargeFile(sqlite3 * database)
+{
+    sqlite3_file * file = nullptr;
+    ASSERT_EQ(sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file), SQLITE_OK);
+    static sqlite3_io_methods methods = *file->pMethods;
+    methods.xFileSize = [](sqlite3_file *, sqlite3_int64 * bytes) {
+        *bytes = sqlite3_int64(100) * 1024 * 1024 * 1024;
+        return SQLITE_OK;
+    };
+    file->pMethods = &methods;
+}
+
+TEST(StatementBudget, CountsALargeFileOnlyInPart)
 {
     QTemporaryDir const folder;
-    QString const file = folder.filePath(QStringLiteral("hole.sqlite"));
+    QString const file = folder.filePath(QStringLiteral("large.sqlite"));
     makeSqlFile(file, QStringLiteral("CREATE TABLE T (a);"));
-    ASSERT_TRUE(QFile::resize(file, qint64(100) * 1024 * 1024 * 1024));
-    Database const database({noEnd, anHour, 67'108'864}, file);
+    Database const database({noEnd, anHour, 67'108'864}, file, pretendALargeFile);
     char const sort[] = "PRAGMA temp_store = MEMORY;" // 1 GB
                         "WITH RECURSIVE c (i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < 10000)"
                         " SELECT count(b) FROM (SELECT zeroblob(100000) AS b FROM c ORDER BY i % 7"
