@@ -1,4 +1,5 @@
 #include "connectionFixture.h"
+#include "hardening/statementBudget.h"
 #include "sampleDatabase.h"
 
 namespace kestrova::test {
@@ -17,30 +18,52 @@ protected:
 };
 
 struct LimitRow {
-    char const * name;
+    char const * name; ///< in docs/database-format.md
     int id;
     int value;
 };
 
+constexpr LimitRow limitRows[] = {
+    {"bytes of a value, and of a row", SQLITE_LIMIT_LENGTH, 16777216},
+    {"bytes of a statement, of a table, of a view", SQLITE_LIMIT_SQL_LENGTH, 65536},
+    {"columns of a table, of a result, of an index", SQLITE_LIMIT_COLUMN, 2000},
+    {"depth of an expression, such as terms joined by OR", SQLITE_LIMIT_EXPR_DEPTH, 1000},
+    {"SELECTs joined by UNION and its like", SQLITE_LIMIT_COMPOUND_SELECT, 500},
+    {"instructions of a compiled statement", SQLITE_LIMIT_VDBE_OP, 250000},
+    {"arguments of a function", SQLITE_LIMIT_FUNCTION_ARG, 127},
+    {"attached databases", SQLITE_LIMIT_ATTACHED, 0},
+    {"bytes of a pattern of LIKE or GLOB", SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 50000},
+    {"places for values that an application fills", SQLITE_LIMIT_VARIABLE_NUMBER, 32766},
+    {"triggers within triggers", SQLITE_LIMIT_TRIGGER_DEPTH, 0},
+    {"further threads", SQLITE_LIMIT_WORKER_THREADS, 0},
+};
+
 TEST_F(ConnectionLimits, AreSet)
 {
-    static constexpr LimitRow rows[] = {
-        {"length", SQLITE_LIMIT_LENGTH, 16777216},
-        {"length of statements", SQLITE_LIMIT_SQL_LENGTH, 65536},
-        {"columns", SQLITE_LIMIT_COLUMN, 1000},
-        {"depth of expressions", SQLITE_LIMIT_EXPR_DEPTH, 500},
-        {"parts of a compound", SQLITE_LIMIT_COMPOUND_SELECT, 100},
-        {"instructions", SQLITE_LIMIT_VDBE_OP, 250000},
-        {"arguments", SQLITE_LIMIT_FUNCTION_ARG, 100},
-        {"attached databases", SQLITE_LIMIT_ATTACHED, 0},
-        {"length of patterns", SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 200},
-        {"bound values", SQLITE_LIMIT_VARIABLE_NUMBER, 100},
-        {"depth of triggers", SQLITE_LIMIT_TRIGGER_DEPTH, 0},
-        {"threads", SQLITE_LIMIT_WORKER_THREADS, 0},
-    };
     ASSERT_TRUE(openDatabaseOf(sampleSql()));
-    for (LimitRow const & row : rows)
+    for (LimitRow const & row : limitRows)
         EXPECT_EQ(sqlite3_limit(handle(), row.id, -1), row.value) << row.name;
+}
+
+TEST_F(ConnectionLimits, StandInTheDocuments)
+{
+    QString const document =
+        QString::fromUtf8(contentOf(QStringLiteral(KESTROVA_ROOT "/docs/database-format.md")));
+    auto const expectRow = [&document](char const * name, qint64 here, QString const & sqlite) {
+        QString const row =
+            QStringLiteral("\n| %1 | %2 | %3 |\n").arg(QLatin1String(name)).arg(here).arg(sqlite);
+        EXPECT_TRUE(document.contains(row)) << row.toStdString();
+    };
+    sqlite3 * plain = nullptr;
+    ASSERT_EQ(sqlite3_open(":memory:", &plain), SQLITE_OK);
+    for (LimitRow const & row : limitRows)
+        expectRow(row.name, row.value, QString::number(sqlite3_limit(plain, row.id, -1)));
+    sqlite3_close(plain);
+    hardening::StatementBudget const budget;
+    expectRow("steps of a run", budget.steps, QStringLiteral("none"));
+    expectRow("seconds of a run", budget.time.count() / 1000, QStringLiteral("none"));
+    expectRow("bytes that a run takes beyond the page cache, and bytes that its rows hold", budget.memory,
+              QStringLiteral("none"));
 }
 
 TEST_F(ConnectionLimits, ComeWithDistrustOfTheDatabase)
@@ -87,15 +110,16 @@ TEST_F(ConnectionLimits, LetThroughWhatIsWithinThemAndFailTheStatementBeyond)
          QStringLiteral("SELECT 1") + QString(65529, QLatin1Char(' '))},
         {"names in a list", QStringLiteral("SELECT 1 IN (%1)").arg(repeated(1500, "'ChStatus_Gain'", ",")),
          QStringLiteral("SELECT 1 IN (%1)").arg(repeated(5000, "'ChStatus_Gain'", ","))},
-        {"names joined by OR", QStringLiteral("SELECT %1").arg(repeated(498, "1", " OR ")),
-         QStringLiteral("SELECT %1").arg(repeated(502, "1", " OR "))},
-        {"columns", QStringLiteral("SELECT %1").arg(repeated(1000, "1", ",")),
-         QStringLiteral("SELECT %1").arg(repeated(1001, "1", ","))},
-        {"parts of a compound", repeated(100, "SELECT 1", " UNION "), repeated(101, "SELECT 1", " UNION ")},
-        {"arguments", QStringLiteral("SELECT max(%1)").arg(repeated(100, "1", ",")),
-         QStringLiteral("SELECT max(%1)").arg(repeated(101, "1", ","))},
-        {"a pattern", QStringLiteral("SELECT name LIKE '%1' FROM Names").arg(QString(200, QLatin1Char('a'))),
-         QStringLiteral("SELECT name LIKE '%1' FROM Names").arg(QString(201, QLatin1Char('a')))},
+        {"names joined by OR", QStringLiteral("SELECT %1").arg(repeated(998, "1", " OR ")),
+         QStringLiteral("SELECT %1").arg(repeated(1002, "1", " OR "))},
+        {"columns", QStringLiteral("SELECT %1").arg(repeated(2000, "1", ",")),
+         QStringLiteral("SELECT %1").arg(repeated(2001, "1", ","))},
+        {"parts of a compound", repeated(500, "SELECT 1", " UNION "), repeated(501, "SELECT 1", " UNION ")},
+        {"arguments", QStringLiteral("SELECT max(%1)").arg(repeated(127, "1", ",")),
+         QStringLiteral("SELECT max(%1)").arg(repeated(128, "1", ","))},
+        {"a pattern",
+         QStringLiteral("SELECT name LIKE '%1' FROM Names").arg(QString(50000, QLatin1Char('a'))),
+         QStringLiteral("SELECT name LIKE '%1' FROM Names").arg(QString(50001, QLatin1Char('a')))},
     };
     ASSERT_TRUE(openDatabaseOf(sampleSql()));
     for (Bounds const & row : rows) {
@@ -121,24 +145,25 @@ TEST_F(ConnectionLimits, LetThroughALargeBlobAndFailOnlyTheRowThatIsTooLong)
 TEST_F(ConnectionLimits, LeaveTheDatabaseReadableWhenATableHasManyColumns)
 {
     QStringList columns;
-    for (int i = 1; i <= 1000; ++i)
+    for (int i = 1; i <= 2000; ++i)
         columns += QStringLiteral("c%1").arg(i);
-    ASSERT_TRUE(openDatabaseOf(QStringLiteral("CREATE TABLE T (%1); INSERT INTO T (c1000) VALUES (5);")
+    ASSERT_TRUE(openDatabaseOf(QStringLiteral("CREATE TABLE T (%1); INSERT INTO T (c2000) VALUES (5);")
                                    .arg(columns.join(QLatin1Char(',')))));
-    EXPECT_EQ(ask(QStringLiteral("SELECT c1000 FROM T")), "5");
+    EXPECT_EQ(ask(QStringLiteral("SELECT c2000 FROM T")), "5");
 }
 
-TEST_F(ConnectionLimits, LeaveOutVirtualTables)
+TEST_F(ConnectionLimits, LeaveOutVirtualTablesButThoseOfValues)
 {
     ASSERT_TRUE(openDatabaseOf(QStringLiteral("CREATE VIRTUAL TABLE Words USING fts5 (word);"
                                               "INSERT INTO Words VALUES ('one');"
                                               "CREATE VIRTUAL TABLE Boxes USING rtree (id, a, b);"
                                               "CREATE TABLE T (a); INSERT INTO T VALUES (5);")));
-    EXPECT_EQ(ask(QStringLiteral("SELECT name FROM pragma_table_info('T')")), "error");
+    EXPECT_EQ(ask(QStringLiteral("SELECT name FROM pragma_table_info('T')")), "a");
+    EXPECT_EQ(ask(QStringLiteral("SELECT value FROM json_each('[4,5]')")), "4\n5");
+    EXPECT_EQ(ask(QStringLiteral("SELECT fullkey FROM json_tree('[4]')")), "$\n$[0]");
     sqlite3_set_authorizer(handle(), nullptr, nullptr); // they are not there, whatever the rules say
-    for (char const * const sql :
-         {"SELECT word FROM Words", "SELECT id FROM Boxes", "SELECT name FROM dbstat",
-          "SELECT sql FROM sqlite_stmt", "SELECT value FROM json_each('[4,5]')"})
+    for (char const * const sql : {"SELECT word FROM Words", "SELECT id FROM Boxes",
+                                   "SELECT name FROM dbstat", "SELECT sql FROM sqlite_stmt"})
         EXPECT_EQ(ask(QLatin1String(sql)), "error") << sql;
     EXPECT_EQ(ask(QStringLiteral("SELECT a FROM T")), "5");
     EXPECT_EQ(messages(), "");

@@ -83,12 +83,15 @@ INSTANTIATE_TEST_SUITE_P(
                       "PRAGMA schema_version = 7", "PRAGMA encoding = 'UTF-16'", "PRAGMA page_size = 512",
                       "PRAGMA page_size(512)", "PRAGMA Temp_Store = FILE",
                       "PRAGMA temp_store_directory = '/'", "PRAGMA writable_schema = ON",
-                      "PRAGMA trusted_schema = ON", "PRAGMA journal_mode", "PRAGMA journal_mode = WAL",
+                      "PRAGMA trusted_schema = ON", "PRAGMA journal_mode = WAL",
                       "PRAGMA locking_mode = EXCLUSIVE", "PRAGMA mmap_size = 1000", "PRAGMA wal_checkpoint",
                       "PRAGMA optimize", "PRAGMA incremental_vacuum", "PRAGMA case_sensitive_like = ON",
                       "PRAGMA soft_heap_limit = 1", "PRAGMA hard_heap_limit = 1", "PRAGMA shrink_memory",
                       "PRAGMA threads = 8", "PRAGMA main.cache_size = 1",
-                      "PRAGMA reverse_unordered_selects = ON"));
+                      "PRAGMA reverse_unordered_selects = ON", "PRAGMA foreign_keys = ON",
+                      "PRAGMA foreign_keys(1)", "PRAGMA foreign_keys = ''", "PRAGMA busy_timeout = 1",
+                      "PRAGMA query_only = OFF", "PRAGMA case_sensitive_like",
+                      "PRAGMA integrity_check(1000000000)"));
 
 /// VACUUM is refused when it runs, for it works by way of other statements.
 TEST_F(StatementRules, RefuseToVacuum)
@@ -98,6 +101,27 @@ TEST_F(StatementRules, RefuseToVacuum)
     EXPECT_EQ(ask(QStringLiteral("VACUUM")), "error");
     EXPECT_EQ(ask(QStringLiteral("VACUUM INTO '%1/copy.db3'").arg(folder.path())), "error");
     EXPECT_EQ(snapshotOf(folder.path()), before);
+}
+
+TEST_F(StatementRules, RefuseToActOrToCheckTheFileForEachRowOfAnotherTable)
+{
+    static constexpr char const * rows[] = {
+        "SELECT * FROM pragma_optimize",
+        "SELECT * FROM pragma_wal_checkpoint",
+        "SELECT integrity_check FROM pragma_integrity_check",
+        "SELECT count(*) FROM Names, pragma_integrity_check",
+        "SELECT count(*) FROM pragma_quick_check('Names')",
+        "SELECT 1 FROM Names, PRAGMA_Foreign_Key_Check(name)",
+        "UPDATE sqlite_master SET sql = ''",
+        "UPDATE sqlite_schema SET rootpage = 2",
+    };
+    openSample();
+    std::string const before = snapshotOf(folder.path());
+    for (char const * const sql : rows)
+        EXPECT_EQ(ask(QLatin1String(sql)), "error") << sql;
+    EXPECT_EQ(ask(QStringLiteral("SELECT name FROM Names WHERE id = 7")), "name of 7");
+    EXPECT_EQ(snapshotOf(folder.path()), before);
+    EXPECT_EQ(messages(), "");
 }
 
 TEST_F(StatementRules, RefuseQtsTransactions)
@@ -134,6 +158,29 @@ TEST_F(StatementRules, AllowWhateverReads)
         {"PRAGMA index_info(NamesByName)", "0|1|name"},
         {"PRAGMA encoding", "UTF-8"},
         {"PRAGMA integrity_check", "ok"},
+        {"PRAGMA quick_check", "ok"},
+        {"PRAGMA foreign_keys", "0"},
+        {"PRAGMA main.foreign_keys", "0"},
+        {"PRAGMA Journal_Mode", "delete"},
+        {"PRAGMA locking_mode", "normal"},
+        {"PRAGMA auto_vacuum", "0"},
+        {"PRAGMA application_id", "0"},
+        {"PRAGMA freelist_count", "0"},
+        {"PRAGMA synchronous", "2"},
+        {"PRAGMA trusted_schema", "0"},
+        {"PRAGMA writable_schema", "0"},
+        {"PRAGMA collation_list", "0|RTRIM\n1|NOCASE\n2|BINARY"},
+        {"PRAGMA foreign_key_check", ""},
+        {"PRAGMA foreign_key_check(Names)", ""},
+        {"PRAGMA foreign_key_list(Names)", ""},
+        {"PRAGMA index_xinfo(NamesByName)", "0|1|name|0|BINARY|1\n1|-1||0|BINARY|0"},
+        {"PRAGMA table_list(Names)", "main|Names|table|2|0|0"},
+        {"SELECT name FROM pragma_table_info('Names')", "id\nname"},
+        {"SELECT m.name, i.name FROM sqlite_master m, pragma_table_info(m.name) i WHERE m.type = 'view'",
+         "FirstNames|name"},
+        {"SELECT foreign_keys FROM pragma_foreign_keys", "0"},
+        {"SELECT value FROM json_each('[4,5]')", "4\n5"},
+        {"SELECT count(*) FROM json_tree('[4,[5]]')", "4"},
         {"EXPLAIN QUERY PLAN SELECT 1", "1|0|0|SCAN CONSTANT ROW"},
     };
     openSample();
