@@ -13,8 +13,8 @@ struct Limit {
 };
 
 // They hold for the texts of the schema too: a table or view beyond them makes the whole database unreadable.
-// Those without a comment are SQLite's own: the product of text and pattern is bounded by boundFunctions(),
-// and the stack that they may take is that of a short statement.
+// Those without a comment are SQLite's own: boundFunctions() bounds the product of text and pattern, and a
+// thread of 512 KiB has stack enough for the deepest expression.
 constexpr std::array<Limit, 12> limits = {{
     {SQLITE_LIMIT_LENGTH, 16 * 1024 * 1024}, // bytes of a value, and of a row: a DSP blob is far smaller
     {SQLITE_LIMIT_SQL_LENGTH, 64 * 1024},    // bytes: a group that names a thousand objects

@@ -14,7 +14,7 @@ namespace {
 /// huge one where the kernel gives them to everybody.
 std::int64_t largestPage()
 {
-    constexpr std::int64_t hugePage = 2 * 1024 * 1024;
+    constexpr std::int64_t hugePage = std::int64_t(2) * 1024 * 1024;
     std::ifstream choices("/sys/kernel/mm/transparent_hugepage/enabled"); // such as "always [madvise] never"
     std::string line;
     std::getline(choices, line);

@@ -2,6 +2,8 @@
 #include "hardening/statementBudget.h"
 #include "sampleDatabase.h"
 
+#include <pthread.h>
+
 namespace kestrova::test {
 
 namespace {
@@ -128,6 +130,45 @@ TEST_F(ConnectionLimits, LetThroughWhatIsWithinThemAndFailTheStatementBeyond)
         EXPECT_EQ(ask(QStringLiteral("SELECT name FROM Names WHERE id = 7")), "name of 7") << row.name;
     }
     EXPECT_EQ(messages(), "");
+}
+
+/// What becomes of a statement on a thread with a stack of 1 MiB.
+struct SmallThread {
+    sqlite3 * database;
+    std::string sql;
+    int result;
+
+    static void * run(void * self)
+    {
+        auto & thread = *static_cast<SmallThread *>(self);
+        thread.result = sqlite3_exec(thread.database, thread.sql.c_str(), nullptr, nullptr, nullptr);
+        return nullptr;
+    }
+};
+
+TEST_F(ConnectionLimits, FitIntoASmallStack)
+{
+    QString const rows[] = {
+        QStringLiteral("SELECT %1 FROM Names").arg(repeated(998, "id", "+")),
+        QStringLiteral("SELECT %1 FROM Names").arg(repeated(998, "name", "||")),
+        QStringLiteral("SELECT id FROM Names WHERE %1").arg(repeated(998, "name = 'a'", " OR ")),
+        repeated(500, "SELECT id FROM Names", " UNION "),
+        repeated(500, "SELECT id FROM Names", " UNION ALL ") + QStringLiteral(" ORDER BY 1 LIMIT 1"),
+        QStringLiteral("SELECT count(*) FROM Names WHERE name LIKE '%1'")
+            .arg(QStringLiteral("%a").repeated(25000)),
+    };
+    ASSERT_TRUE(openDatabaseOf(sampleSql()));
+    for (QString const & sql : rows) {
+        SmallThread thread{handle(), sql.toStdString(), SQLITE_ERROR};
+        pthread_attr_t attributes;
+        ASSERT_EQ(pthread_attr_init(&attributes), 0);
+        ASSERT_EQ(pthread_attr_setstacksize(&attributes, 1024 * 1024), 0);
+        pthread_t handleOfThread{};
+        ASSERT_EQ(pthread_create(&handleOfThread, &attributes, SmallThread::run, &thread), 0);
+        pthread_join(handleOfThread, nullptr);
+        pthread_attr_destroy(&attributes);
+        EXPECT_EQ(thread.result, SQLITE_OK) << sql.left(60).toStdString();
+    }
 }
 
 TEST_F(ConnectionLimits, LetThroughALargeBlobAndFailOnlyTheRowThatIsTooLong)
