@@ -162,7 +162,7 @@ TEST_F(ConnectionLimits, FitIntoASmallStack)
         SmallThread thread{handle(), sql.toStdString(), SQLITE_ERROR};
         pthread_attr_t attributes;
         ASSERT_EQ(pthread_attr_init(&attributes), 0);
-        ASSERT_EQ(pthread_attr_setstacksize(&attributes, 1024 * 1024), 0);
+        ASSERT_EQ(pthread_attr_setstacksize(&attributes, std::size_t(1024) * 1024), 0);
         pthread_t handleOfThread{};
         ASSERT_EQ(pthread_create(&handleOfThread, &attributes, SmallThread::run, &thread), 0);
         pthread_join(handleOfThread, nullptr);

@@ -156,7 +156,7 @@ void makeDatabaseWithViews(QString const & path, int bytes)
 {
     QString const first = QStringLiteral("CREATE VIEW v AS SELECT 7 AS a");
     QString const second = QStringLiteral("CREATE VIEW w AS SELECT 'ä%1' AS a");
-    int const unpadded = first.toUtf8().size() + second.toUtf8().size() - 2;
+    int const unpadded = static_cast<int>(first.toUtf8().size() + second.toUtf8().size()) - 2;
     makeEncryptedDatabase(path, first + QLatin1Char(';') +
                                     second.arg(QString(bytes - unpadded, QLatin1Char('x'))) +
                                     QLatin1Char(';'));
