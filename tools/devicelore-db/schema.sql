@@ -109,7 +109,7 @@ CREATE TABLE SpeakerClasses (
 );
 
 CREATE TABLE Speakers (
-    SpeakerId        INTEGER NOT NULL,         -- no two may agree in the low byte
+    SpeakerId        INTEGER NOT NULL,         -- the ways of a speaker agree in the low byte, and no others may
     Name             TEXT NOT NULL,
     Class            INTEGER NOT NULL,         -- SpeakerClasses.Class
     Rib              INTEGER NOT NULL DEFAULT 0,
