@@ -17,4 +17,9 @@ ProgramResult runProgram(QString const & program, QStringList const & arguments)
             QString::fromUtf8(process.readAllStandardError())};
 }
 
+QStringList onFullDisk()
+{
+    return {QStringLiteral("sh"), QStringLiteral("-c"), QStringLiteral("exec \"$0\" \"$@\" > /dev/full")};
+}
+
 } // namespace kestrova::test

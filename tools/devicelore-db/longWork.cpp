@@ -45,7 +45,7 @@ LongWork::~LongWork()
     for (int const signal : endingSignals)
         std::signal(signal, SIG_DFL);
     if (shownPercent >= 0)
-        print(stderr, QStringLiteral("\r\x1B[K")); // clears the line
+        printMessage(QStringLiteral("\r\x1B[K")); // clears the line
 }
 
 sqlcipher::Progress LongWork::progress()
@@ -62,7 +62,7 @@ void LongWork::show(int percent)
     if (percent == shownPercent)
         return;
     shownPercent = percent;
-    print(stderr, QStringLiteral("\r%1 %2 %").arg(action, QString::number(percent)));
+    printMessage(QStringLiteral("\r%1 %2 %").arg(action, QString::number(percent)));
 }
 
 } // namespace kestrova::authoring

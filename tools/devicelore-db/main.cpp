@@ -19,7 +19,7 @@ ToolInterface toolInterface()
         {},
         {},
         "Exit codes: 0 ok, 1 errors or breaking changes found, 2 wrong use, 3 not found, 4 trouble with a "
-        "database.\n"};
+        "database or in writing.\n"};
     for (Command const & command : commands())
         tool.commands.push_back(command.interface);
     return tool;
@@ -29,7 +29,7 @@ int run(QStringList const & arguments)
 {
     ParsedArguments const parsed = parseArguments(toolInterface(), arguments);
     if (parsed.text) {
-        print(stdout, *parsed.text);
+        print(*parsed.text);
         return ExitOk;
     }
     Command const & command = commands().at(static_cast<std::size_t>(parsed.command));

@@ -25,7 +25,7 @@ ToolInterface toolInterface()
         {{"databases", "DIR", "ask the databases (*.db3) of this folder too; may be given several times"},
          {"access-level", "N", "the level of the caller, 0 to 255 (1 if not given)"},
          {"json", nullptr, "print JSON; docs/command-line.md explains its keys"}},
-        "Exit codes: 0 ok, 2 wrong use, 3 not found, 4 trouble with a database.\n",
+        "Exit codes: 0 ok, 2 wrong use, 3 not found, 4 trouble with a database or in writing.\n",
     };
     for (Command const & command : commands())
         tool.commands.push_back(

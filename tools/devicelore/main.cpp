@@ -12,7 +12,7 @@ int run(QStringList const & arguments)
 {
     CommandLine const line = readCommandLine(arguments);
     if (line.text) {
-        print(stdout, *line.text);
+        print(*line.text);
         return ExitOk;
     }
     Inspector inspector(line.databaseFolders, line.accessLevel);

@@ -6,6 +6,7 @@
 #include <QJsonObject>
 
 using kestrova::test::DatabaseFolder;
+using kestrova::test::onFullDisk;
 using kestrova::test::ProgramResult;
 using kestrova::test::ToolFolder;
 
@@ -310,5 +311,22 @@ TEST_F(DeviceTool, SaysWhatItDidNotFind)
         ProgramResult const result = tool.run(row.arguments);
         EXPECT_EQ(result.exitCode, 3);
         EXPECT_EQ(result.messages, QString::fromUtf8(row.message));
+    }
+}
+
+TEST_F(DeviceTool, EndsInTroubleWhenItsAnswerCannotBeWritten)
+{
+    for (char const * arguments :
+         {"databases", "databases --json", "devices", "devices --json", "device Talvo", "device C7000008",
+          "device C7000008 --json", "modes", "modes --json", "explain Talvo", "defaults Talvo", "version",
+          "version --json", "--help", "device --help", "--version", "--print-manual-page",
+          "--print-completion"}) {
+        SCOPED_TRACE(arguments);
+        ProgramResult const result = tool.run(arguments, onFullDisk());
+        EXPECT_EQ(result.exitCode, 4);
+        // What follows comes from the C library, in the language of the process.
+        EXPECT_TRUE(result.messages.startsWith(QStringLiteral("devicelore: the answer cannot be written: ")))
+            << result.messages.toStdString();
+        EXPECT_EQ(result.messages.count(QLatin1Char('\n')), 1);
     }
 }

@@ -22,15 +22,17 @@ public:
             throw std::runtime_error("cannot copy the tool");
     }
 
-    ProgramResult run(QStringList const & arguments) const
+    /// \a starter is a program, with arguments, that starts the tool in its turn.
+    ProgramResult run(QStringList const & arguments, QStringList const & starter = {}) const
     {
-        return runProgram(path(QStringLiteral("devicelore")), arguments);
+        QStringList const words = starter + QStringList{path(QStringLiteral("devicelore"))} + arguments;
+        return runProgram(words.first(), words.mid(1));
     }
 
     /// The arguments in one text, separated by blanks.
-    ProgramResult run(char const * arguments) const
+    ProgramResult run(char const * arguments, QStringList const & starter = {}) const
     {
-        return run(QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        return run(QString::fromUtf8(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts), starter);
     }
 
     QJsonValue json(char const * arguments) const

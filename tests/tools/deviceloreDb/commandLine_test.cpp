@@ -86,6 +86,37 @@ TEST_F(DatabaseTool, TellsItsVersion)
     EXPECT_EQ(result.output, QStringLiteral("devicelore-db 1.4.19\n"));
 }
 
+TEST_F(DatabaseTool, EndsInTroubleWhenItsAnswerCannotBeWritten)
+{
+    make("new a.db");
+    std::string const before = names();
+    for (char const * arguments :
+         {"info a.db", "info a.db --json", "info none", "check a.db", "check a.db --json",
+          "check a.db --sarif", "check --rules", "diff a.db a.db", "diff a.db a.db --json", "--help",
+          "check --help", "--version", "--print-manual-page", "--print-completion"}) {
+        SCOPED_TRACE(arguments);
+        ProgramResult const result = run(QString::fromUtf8(arguments).split(QLatin1Char(' ')), onFullDisk());
+        EXPECT_EQ(result.exitCode, 4);
+        // What follows comes from the C library, in the language of the process.
+        EXPECT_TRUE(
+            result.messages.startsWith(QStringLiteral("devicelore-db: the answer cannot be written: ")))
+            << result.messages.toStdString();
+        EXPECT_EQ(result.messages.count(QLatin1Char('\n')), 1);
+        EXPECT_EQ(names(), before);
+    }
+}
+
+TEST_F(DatabaseTool, NeedsNoOutputForACommandThatPrintsNothing)
+{
+    for (char const * arguments : {"new a.db", "encrypt a.db a.db3", "decrypt a.db3 b.db"}) {
+        SCOPED_TRACE(arguments);
+        ProgramResult const result = run(QString::fromUtf8(arguments).split(QLatin1Char(' ')), onFullDisk());
+        EXPECT_EQ(result.exitCode, 0);
+        EXPECT_EQ(result.messages, QString());
+    }
+    EXPECT_EQ(names(), "a.db a.db3 b.db");
+}
+
 TEST_F(DatabaseTool, TakesAnyFileName)
 {
     for (char const * name : {"a b", "100%", "why?", "no#1", "Größe", "\xF0\x9F\x8E\xB5", "it's", "-dash"}) {
