@@ -16,7 +16,9 @@ std::optional<FirstPage> readEncryptedFirstPage(unsigned char const * bytes, Pag
     if (!codec->decrypt(1, bytes, plain.data()))
         return {};
     auto const header = readDatabaseHeader(plain.data());
-    if (!header || header->pageSize != format.pageSize || header->reserve != format.reserve)
+    // Newer tools that write version 3 let the header reserve as much as version 4 needs, and leave the
+    // difference, which lies within the ciphertext, unused.
+    if (!header || header->pageSize != format.pageSize || header->reserve < format.reserve)
         return {};
     return FirstPage{std::move(codec), *header};
 }

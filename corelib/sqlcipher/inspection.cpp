@@ -150,6 +150,7 @@ Inspection inspectDatabase(QString const & path, Key const & key, Progress const
         return inspectWithoutFirstPage(file, start, key);
     Inspection result = inspectLayout(file, *firstPage, progress);
     result.version = firstPage->codec ? firstPage->codec->format().version : 0;
+    result.reserve = firstPage->header.reserve;
     result.pageCount = firstPage->header.pageCount(file.size());
     return result;
 }

@@ -90,6 +90,31 @@ TEST_F(EncryptedDatabase, WithoutTablesOpens)
     EXPECT_EQ(ask(QStringLiteral("SELECT 1")), "1");
 }
 
+TEST_F(EncryptedDatabase, OfVersion3ThatReservesMoreThanItsFormatNeedsOpens)
+{
+    QString const file = path(QStringLiteral("compatible.db3"));
+    makeSampleOfCompatibilityMode(file);
+    ASSERT_TRUE(open(file));
+    EXPECT_EQ(ask(QStringLiteral("SELECT count(*), sum(id) FROM Names WHERE name = 'name of ' || id")),
+              "3000|4501500");
+    EXPECT_EQ(ask(QStringLiteral("SELECT length(data), hex(substr(data, 19999)) FROM Blobs")), "20000|4142");
+    EXPECT_EQ(ask(QStringLiteral("PRAGMA integrity_check")), "ok");
+    EXPECT_EQ(messages(), "");
+}
+
+TEST_F(EncryptedDatabase, OfVersion3ThatReservesMoreThanItsFormatNeedsDecrypts)
+{
+    QString const file = path(QStringLiteral("compatible.db3"));
+    QString const plain = path(QStringLiteral("plain.db3"));
+    makeSampleOfCompatibilityMode(file);
+    sqlcipher::decryptDatabase(file, plain);
+    EXPECT_EQ(contentOf(plain).mid(16, 5).toHex().toStdString(), "0400010150") << "1024 bytes, 80 reserved";
+    ASSERT_TRUE(open(plain));
+    EXPECT_EQ(ask(QStringLiteral("PRAGMA integrity_check")), "ok");
+    EXPECT_EQ(ask(QStringLiteral("SELECT count(*), sum(id) FROM Names WHERE name = 'name of ' || id")),
+              "3000|4501500");
+}
+
 TEST_F(EncryptedDatabase, InUtf16Opens)
 {
     QString const plain = path(QStringLiteral("plain"));

@@ -71,14 +71,15 @@ auto const wrongKeyMessage =
     "FILE does not open with the key of this build; encrypt it with that key, or check that it "
     "is a database at all.";
 
-INSTANTIATE_TEST_SUITE_P(Good, InspectedDatabase,
-                         ::testing::Values(InspectedFile{"Plain", makePlainSample, FileState::Plain, 0, 0,
-                                                         "FILE is a plain database."},
-                                           InspectedFile{"Version4", make4, FileState::Encrypted, 4, 0,
-                                                         "FILE is an encrypted database."},
-                                           InspectedFile{"Version3", make3, FileState::Encrypted, 3, 0,
-                                                         "FILE is an encrypted database."}),
-                         [](auto const & row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(
+    Good, InspectedDatabase,
+    ::testing::Values(
+        InspectedFile{"Plain", makePlainSample, FileState::Plain, 0, 0, "FILE is a plain database."},
+        InspectedFile{"Version4", make4, FileState::Encrypted, 4, 0, "FILE is an encrypted database."},
+        InspectedFile{"Version3", make3, FileState::Encrypted, 3, 0, "FILE is an encrypted database."},
+        InspectedFile{"Version3OfCompatibilityMode", makeSampleOfCompatibilityMode, FileState::Encrypted, 3,
+                      0, "FILE is an encrypted database."}),
+    [](auto const & row) { return row.param.name; });
 
 INSTANTIATE_TEST_SUITE_P(
     NoFile, InspectedDatabase,
@@ -107,6 +108,7 @@ INSTANTIATE_TEST_SUITE_P(
     NotADatabase, InspectedDatabase,
     ::testing::Values(notADatabase("OneByte", "S"),
                       notADatabase("Text", QByteArray("no database\n").repeated(1000)),
+                      notADatabase("RandomBytesShortOfAPage", randomBytes(1023)),
                       notADatabase("Zeros", QByteArray(8192, '\0')),
                       notADatabase("MagicBytesAlone", QByteArray("SQLite format 3\0", 16)),
                       notADatabase("PageSizeThatIsNoPowerOfTwo",
@@ -115,25 +117,26 @@ INSTANTIATE_TEST_SUITE_P(
                                    QByteArray("SQLite format 3\0", 16) + QByteArray(8176, '\0'))),
     [](auto const & row) { return row.param.name; });
 
-INSTANTIATE_TEST_SUITE_P(WrongKey, InspectedDatabase,
-                         ::testing::Values(InspectedFile{"Version4",
-                                                         [](QString const & path) {
-                                                             makeEncryptedSample(path, version4, wrongKey());
-                                                         },
-                                                         FileState::WrongKey, 0, 0, wrongKeyMessage},
-                                           InspectedFile{"Version3",
-                                                         [](QString const & path) {
-                                                             makeEncryptedSample(path, version3, wrongKey());
-                                                         },
-                                                         FileState::WrongKey, 0, 0, wrongKeyMessage},
-                                           // Another salt is another key to every page.
-                                           InspectedFile{"DamagedSalt",
-                                                         [](QString const & path) {
-                                                             make4(path);
-                                                             changeByte(path, 3);
-                                                         },
-                                                         FileState::WrongKey, 0, 0, wrongKeyMessage}),
-                         [](auto const & row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(
+    WrongKey, InspectedDatabase,
+    ::testing::Values(
+        InspectedFile{"RandomBytesOfAPage",
+                      [](QString const & path) { writeContent(path, randomBytes(1024)); },
+                      FileState::WrongKey, 0, 0, wrongKeyMessage},
+        InspectedFile{"Version4",
+                      [](QString const & path) { makeEncryptedSample(path, version4, wrongKey()); },
+                      FileState::WrongKey, 0, 0, wrongKeyMessage},
+        InspectedFile{"Version3",
+                      [](QString const & path) { makeEncryptedSample(path, version3, wrongKey()); },
+                      FileState::WrongKey, 0, 0, wrongKeyMessage},
+        // Another salt is another key to every page.
+        InspectedFile{"DamagedSalt",
+                      [](QString const & path) {
+                          make4(path);
+                          changeByte(path, 3);
+                      },
+                      FileState::WrongKey, 0, 0, wrongKeyMessage}),
+    [](auto const & row) { return row.param.name; });
 
 InspectedFile damaged(char const * name, sqlcipher::PageFormat const & format, int offset, int page)
 {
@@ -156,6 +159,31 @@ INSTANTIATE_TEST_SUITE_P(DamagedPage, InspectedDatabase,
                                            damaged("Version3Page2", version3, 1024, 2),
                                            damaged("Version3Page7", version3, 6 * 1024, 7)),
                          [](auto const & row) { return row.param.name; });
+
+/// With other bytes in the header of a first page that is authentic all the same.
+InspectedFile relabelledDatabase(char const * name, sqlcipher::PageFormat const & format, int offset,
+                                 QByteArray const & bytes)
+{
+    return {name,
+            [&format, offset, bytes](QString const & path) {
+                makeEncryptedSample(path, format);
+                changeHeader(path, format, offset, bytes);
+            },
+            FileState::DamagedPage,
+            format.version,
+            1,
+            "FILE is damaged in page 1; make it anew."};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AuthenticFirstPage, InspectedDatabase,
+    ::testing::Values(relabelledDatabase("Version4OfPageSize0", version4, 16, QByteArray("\0\0", 2)),
+                      relabelledDatabase("Version4OfPageSize1000", version4, 16, QByteArray("\x03\xE8", 2)),
+                      relabelledDatabase("Version4OfPageSize8192", version4, 16, QByteArray("\x20", 1)),
+                      relabelledDatabase("Version4WithoutReserve", version4, 20, QByteArray("\0", 1)),
+                      relabelledDatabase("Version3OfPageSize0", version3, 16, QByteArray("\0\0", 2)),
+                      relabelledDatabase("Version3OfPageSize1000", version3, 16, QByteArray("\x03\xE8", 2))),
+    [](auto const & row) { return row.param.name; });
 
 InspectedFile cut(char const * name, std::function<void(QString const &)> const & make, int size, int version,
                   std::string const & message)
@@ -198,6 +226,20 @@ TEST(Inspection, CountsThePagesThatTheHeaderStates)
     EXPECT_EQ(inspectDatabase(path).pageCount, pages);
     EXPECT_EQ(inspectDatabase(path).state, FileState::CutShort);
     EXPECT_EQ(inspectDatabase(path).version, 4);
+}
+
+TEST(Inspection, TellsHowManyBytesThePagesReserve)
+{
+    QTemporaryDir const folder;
+    QString const path = folder.filePath(QStringLiteral("sample.db3"));
+    makePlainSample(path);
+    EXPECT_EQ(inspectDatabase(path).reserve, 0);
+    makeEncryptedSample(path, version4);
+    EXPECT_EQ(inspectDatabase(path).reserve, 80);
+    makeEncryptedSample(path, version3);
+    EXPECT_EQ(inspectDatabase(path).reserve, 48);
+    makeSampleOfCompatibilityMode(path);
+    EXPECT_EQ(inspectDatabase(path).reserve, 80);
 }
 
 TEST(Inspection, IgnoresBytesBehindTheLastPageAsSqliteDoes)

@@ -1,14 +1,17 @@
 #include "connectionFixture.h"
 #include "sampleDatabase.h"
 
+#include "sqlcipher/bytes.h"
 #include "sqlcipher/databaseFile.h"
+#include "sqlcipher/pageCodec.h"
 
 #include <openssl/evp.h>
 #include <openssl/hmac.h>
-#include <sqlite3.h>
 
 #include <QFile>
 #include <QSqlDatabase>
+
+#include <algorithm>
 
 namespace kestrova::test {
 
@@ -107,21 +110,9 @@ TEST_F(Version4Format, TakesASaltAndIvsOfItsOwnForEachFileAndPage)
     EXPECT_FALSE(first.contains("CREATE TABLE"));
 }
 
-/// A plain sample with 80 bytes reserved in each page.
-void makeReservedSample(QString const & path)
-{
-    makePlainSample(path);
-    sqlite3 * database = nullptr;
-    ASSERT_EQ(sqlite3_open(path.toUtf8().constData(), &database), SQLITE_OK);
-    int reserve = 80;
-    EXPECT_EQ(sqlite3_file_control(database, "main", SQLITE_FCNTL_RESERVE_BYTES, &reserve), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(database, "VACUUM", nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(database);
-}
-
 TEST_F(Version4Format, IsReadAsPublished)
 {
-    makeReservedSample(plain);
+    makeReservedSample(plain, 4096, 80);
     QByteArray const content = contentOf(plain);
     QByteArray const salt("0123456789abcdef");
     Version4Pages const pages(salt);
@@ -138,6 +129,25 @@ TEST_F(Version4Format, IsReadAsPublished)
     EXPECT_EQ(ask(QStringLiteral("PRAGMA integrity_check")), "ok");
     EXPECT_EQ(ask(QStringLiteral("SELECT count(*), sum(id) FROM Names WHERE name = 'name of ' || id")),
               "3000|4501500");
+}
+
+TEST_F(Version4Format, IsDecryptedWithZerosInTheReservedBytesWhateverTheBufferHeld)
+{
+    makeReservedSample(plain, 4096, 80);
+    encryptPages(encrypted, contentOf(plain), sqlcipher::version4);
+    QByteArray const stored = contentOf(encrypted);
+    sqlcipher::Salt salt;
+    std::copy_n(stored.constBegin(), salt.size(), salt.begin());
+    sqlcipher::PageCodec codec(sqlcipher::version4, sqlcipher::databaseKey, salt);
+    for (int number : {1, 2}) {
+        SCOPED_TRACE(number);
+        QByteArray page(4096, '\xFF');
+        ASSERT_TRUE(codec.decrypt(static_cast<quint32>(number),
+                                  sqlcipher::bytesOf(stored) + (number - 1) * 4096,
+                                  reinterpret_cast<unsigned char *>(page.data())));
+        EXPECT_EQ(page.left(4016), contentOf(plain).mid((number - 1) * 4096, 4016));
+        EXPECT_EQ(page.mid(4016), QByteArray(80, '\0'));
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "sampleDatabase.h"
 
+#include "sqlcipher/readOnlyFile.h"
 #include "sqlcipher/readOnlyVfs.h"
 
 #include <sqlite3.h>
@@ -40,6 +41,37 @@ TEST(ReadOnlyVfs, OpensDatabasesForReadingOnly)
     EXPECT_EQ(openWithVfs(file, SQLITE_OPEN_READONLY), SQLITE_OK);
     EXPECT_EQ(openWithVfs(file, SQLITE_OPEN_READWRITE), SQLITE_CANTOPEN);
     EXPECT_EQ(openWithVfs(file, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE), SQLITE_CANTOPEN);
+}
+
+TEST(ReadOnlyVfs, HidesAWriteAheadLogAndShowsEveryOtherVersionOfTheFormat)
+{
+    struct Row {
+        char const * name;
+        QByteArray stored; ///< versions for writing and for reading, at offset 18 of the header
+        char const * shown;
+    };
+
+    Row const rows[] = {
+        {"a rollback journal", QByteArray("\1\1", 2), "0101"},
+        {"a write-ahead log", QByteArray("\2\2", 2), "0101"},
+        {"a log for reading only", QByteArray("\1\2", 2), "0101"},
+        {"a log for writing only", QByteArray("\2\1", 2), "0101"},
+        {"none", QByteArray("\0\0", 2), "0000"},
+        {"of a later SQLite", QByteArray("\3\3", 2), "0303"},
+    };
+    QTemporaryDir const folder;
+    QString const path = folder.filePath(QStringLiteral("sample.db3"));
+    for (Row const & row : rows) {
+        SCOPED_TRACE(row.name);
+        makeEncryptedSample(path);
+        changeHeader(path, sqlcipher::version4, 18, row.stored);
+        sqlcipher::ReadOnlyFile file(*sqlite3_vfs_find(nullptr));
+        ASSERT_EQ(file.open(path.toUtf8().constData(), SQLITE_OPEN_MAIN_DB | SQLITE_OPEN_READONLY),
+                  SQLITE_OK);
+        QByteArray shown(2, '\xFF');
+        ASSERT_EQ(file.read(reinterpret_cast<unsigned char *>(shown.data()), 2, 18), SQLITE_OK);
+        EXPECT_EQ(shown.toHex().toStdString(), row.shown);
+    }
 }
 
 TEST(ReadOnlyVfs, OpensNoTemporaryFilesAndDeletesNothing)

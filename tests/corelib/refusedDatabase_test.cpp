@@ -3,8 +3,6 @@
 #include "repeatedPages.h"
 #include "sampleDatabase.h"
 
-#include "sqlcipher/bytes.h"
-#include "sqlcipher/pageCodec.h"
 #include "support/sqlFile.h"
 
 #include <QDir>
@@ -15,22 +13,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <functional>
-#include <random>
 
 namespace kestrova::test {
 
 namespace {
-
-QByteArray randomBytes(int count)
-{
-    std::mt19937 generator(1); // NOLINT(cert-msc51-cpp): the same bytes in every run
-    QByteArray bytes(count, '\0');
-    for (char & byte : bytes)
-        byte = static_cast<char>(generator());
-    return bytes;
-}
 
 /// Makes one file that must not open.
 struct RefusedFile {
@@ -107,30 +94,29 @@ INSTANTIATE_TEST_SUITE_P(DamagedFirstPage, RefusedDatabase,
                                            damaged("Version3Hmac", sqlcipher::version3, 1011)),
                          [](auto const & row) { return row.param.name; });
 
-/// The sample with another byte at \a offset of its header, in a first page that is authentic all the same.
-RefusedFile relabelled(char const * name, sqlcipher::PageFormat const & format, int offset, char byte)
+/// The sample with other bytes at \a offset of its header, in a first page that is authentic all the same.
+RefusedFile withHeader(char const * name, sqlcipher::PageFormat const & format, int offset,
+                       QByteArray const & bytes)
 {
-    return {name, [&format, offset, byte](QString const & path) {
+    return {name, [&format, offset, bytes](QString const & path) {
                 makeEncryptedSample(path, format);
-                QByteArray bytes = contentOf(path);
-                sqlcipher::Salt salt;
-                std::copy_n(bytes.constBegin(), salt.size(), salt.begin());
-                sqlcipher::PageCodec codec(format, sqlcipher::databaseKey, salt);
-                QByteArray plain(format.pageSize, '\0');
-                codec.decrypt(1, sqlcipher::bytesOf(bytes), reinterpret_cast<unsigned char *>(plain.data()));
-                plain[offset] = byte;
-                codec.encrypt(1, sqlcipher::bytesOf(plain), reinterpret_cast<unsigned char *>(bytes.data()));
-                writeContent(path, bytes);
+                changeHeader(path, format, offset, bytes);
             }};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     AuthenticFirstPage, RefusedDatabase,
-    ::testing::Values(relabelled("Version4OfAnotherPageSize", sqlcipher::version4, 16, 0x20),
-                      relabelled("Version4WithoutReserve", sqlcipher::version4, 20, 0),
-                      relabelled("Version4WithoutAHeader", sqlcipher::version4, 21, 0),
-                      relabelled("Version3OfAnotherPageSize", sqlcipher::version3, 16, 0x02),
-                      relabelled("Version3WithTheReserveOfVersion4", sqlcipher::version3, 20, 80)),
+    ::testing::Values(
+        withHeader("Version4OfAnotherPageSize", sqlcipher::version4, 16, QByteArray("\x20", 1)),
+        withHeader("Version4OfPageSize0", sqlcipher::version4, 16, QByteArray("\0\0", 2)),
+        withHeader("Version4OfPageSize1000", sqlcipher::version4, 16, QByteArray("\x03\xE8", 2)),
+        withHeader("Version4ThatOnlyALaterSqliteReads", sqlcipher::version4, 19, QByteArray("\3", 1)),
+        withHeader("Version4WithoutReserve", sqlcipher::version4, 20, QByteArray("\0", 1)),
+        withHeader("Version4WithAByteTooLittleReserve", sqlcipher::version4, 20, QByteArray("\x4F", 1)),
+        withHeader("Version4WithoutAHeader", sqlcipher::version4, 21, QByteArray("\0", 1)),
+        withHeader("Version3OfAnotherPageSize", sqlcipher::version3, 16, QByteArray("\x02", 1)),
+        withHeader("Version3OfPageSize0", sqlcipher::version3, 16, QByteArray("\0\0", 2)),
+        withHeader("Version3WithAByteTooLittleReserve", sqlcipher::version3, 20, QByteArray("\x2F", 1))),
     [](auto const & row) { return row.param.name; });
 
 // SQLite would overflow its stack, or read for years.

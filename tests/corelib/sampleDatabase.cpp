@@ -1,10 +1,16 @@
 #include "sampleDatabase.h"
 
+#include "sqlcipher/bytes.h"
 #include "sqlcipher/databaseFile.h"
+#include "sqlcipher/pageCodec.h"
 #include "support/sqlFile.h"
 
 #include <QFile>
 
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <random>
 #include <stdexcept>
 
 namespace kestrova::test {
@@ -45,6 +51,66 @@ void makeEncryptedSample(QString const & path, sqlcipher::PageFormat const & for
                          sqlcipher::Key const & key)
 {
     makeEncryptedDatabase(path, sampleSql(), format, key);
+}
+
+void makeReservedSample(QString const & path, int pageSize, int reserve)
+{
+    makePlainSample(path);
+    sqlite3 * database = nullptr;
+    bool const isMade =
+        sqlite3_open(path.toUtf8().constData(), &database) == SQLITE_OK &&
+        sqlite3_exec(database, ("PRAGMA page_size = " + QByteArray::number(pageSize)).constData(), nullptr,
+                     nullptr, nullptr) == SQLITE_OK &&
+        sqlite3_file_control(database, "main", SQLITE_FCNTL_RESERVE_BYTES, &reserve) == SQLITE_OK &&
+        sqlite3_exec(database, "VACUUM", nullptr, nullptr, nullptr) == SQLITE_OK;
+    sqlite3_close(database);
+    if (!isMade)
+        throw std::runtime_error("cannot make " + path.toStdString());
+}
+
+void encryptPages(QString const & path, QByteArray const & plain, sqlcipher::PageFormat const & format)
+{
+    sqlcipher::Salt salt;
+    std::copy_n("0123456789abcdef", salt.size(), salt.begin());
+    sqlcipher::PageCodec codec(format, sqlcipher::databaseKey, salt);
+    QByteArray stored(plain.size(), '\0');
+    for (int number = 1; number <= plain.size() / format.pageSize; ++number) {
+        int const start = (number - 1) * format.pageSize;
+        codec.encrypt(static_cast<quint32>(number), sqlcipher::bytesOf(plain) + start,
+                      reinterpret_cast<unsigned char *>(stored.data()) + start);
+    }
+    writeContent(path, stored);
+}
+
+void makeSampleOfCompatibilityMode(QString const & path)
+{
+    QString const plain = path + QStringLiteral(".plain");
+    makeReservedSample(plain, sqlcipher::version3.pageSize, 80);
+    encryptPages(path, contentOf(plain), sqlcipher::version3);
+    QFile::remove(plain);
+}
+
+void changeHeader(QString const & path, sqlcipher::PageFormat const & format, int offset,
+                  QByteArray const & bytes)
+{
+    QByteArray content = contentOf(path);
+    sqlcipher::Salt salt;
+    std::copy_n(content.constBegin(), salt.size(), salt.begin());
+    sqlcipher::PageCodec codec(format, sqlcipher::databaseKey, salt);
+    QByteArray plain(format.pageSize, '\0');
+    codec.decrypt(1, sqlcipher::bytesOf(content), reinterpret_cast<unsigned char *>(plain.data()));
+    plain.replace(offset, bytes.size(), bytes);
+    codec.encrypt(1, sqlcipher::bytesOf(plain), reinterpret_cast<unsigned char *>(content.data()));
+    writeContent(path, content);
+}
+
+QByteArray randomBytes(int count)
+{
+    std::mt19937 generator(1); // NOLINT(cert-msc51-cpp): the same bytes in every run
+    QByteArray bytes(count, '\0');
+    for (char & byte : bytes)
+        byte = static_cast<char>(generator());
+    return bytes;
 }
 
 QByteArray contentOf(QString const & path)

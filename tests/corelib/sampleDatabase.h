@@ -1,7 +1,9 @@
 #pragma once
 
 #include "sqlcipher/databaseKey.h"
+#include "sqlcipher/pageFormat.h"
 
+#include <QByteArray>
 #include <QString>
 
 namespace kestrova::test {
@@ -15,6 +17,9 @@ QString sampleSql();
 
 void makePlainSample(QString const & path);
 
+/// A plain sample with \a reserve bytes free at the end of each page.
+void makeReservedSample(QString const & path, int pageSize, int reserve);
+
 /// Makes the encrypted database \a path from \a sql, a text of any number of statements.
 void makeEncryptedDatabase(QString const & path, QString const & sql,
                            sqlcipher::PageFormat const & format = sqlcipher::version4,
@@ -23,6 +28,21 @@ void makeEncryptedDatabase(QString const & path, QString const & sql,
 /// Version 4 unless told otherwise. More than 20 pages in either version.
 void makeEncryptedSample(QString const & path, sqlcipher::PageFormat const & format = sqlcipher::version4,
                          sqlcipher::Key const & key = sqlcipher::databaseKey);
+
+/// Makes the encrypted file \a path from the bytes of a plain database as they are, with the salt
+/// "0123456789abcdef".
+void encryptPages(QString const & path, QByteArray const & plain, sqlcipher::PageFormat const & format);
+
+/// The sample in version 3 as newer SQLCipher tools write it: its header reserves 80 bytes a page, as version
+/// 4 needs, and 48 are used.
+void makeSampleOfCompatibilityMode(QString const & path);
+
+/// Puts \a bytes at \a offset of the header of an encrypted database. Its first page stays authentic.
+void changeHeader(QString const & path, sqlcipher::PageFormat const & format, int offset,
+                  QByteArray const & bytes);
+
+/// The same ones in every run.
+QByteArray randomBytes(int count);
 
 QByteArray contentOf(QString const & path);
 void writeContent(QString const & path, QByteArray const & content);

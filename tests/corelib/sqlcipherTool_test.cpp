@@ -69,6 +69,14 @@ TEST_F(SqlcipherTool, ReadsWhatIsEncryptedForVersion3)
               "20000|4142");
 }
 
+TEST_F(SqlcipherTool, ReadsTheSampleOfCompatibilityMode)
+{
+    makeSampleOfCompatibilityMode(file);
+    EXPECT_EQ(runTool(QStringLiteral("PRAGMA integrity_check")), "ok");
+    EXPECT_EQ(runTool(QStringLiteral("SELECT count(*), sum(id) FROM Names WHERE name = 'name of ' || id")),
+              "3000|4501500");
+}
+
 TEST_F(SqlcipherTool, WritesToWhatIsEncryptedForVersion3)
 {
     makeEncryptedSample(file, sqlcipher::version3);

@@ -3,9 +3,12 @@
 #include "longWork.h"
 
 #include "sqlcipher/inspection.h"
+#include "sqlcipher/pageFormat.h"
 #include "sqlcipher/readOnlyVfs.h"
 
 #include <QJsonObject>
+
+#include <algorithm>
 
 using namespace kestrova::sqlcipher;
 
@@ -77,12 +80,27 @@ QString stateText(Inspection const & inspection)
     return state;
 }
 
+/// Empty when the file reserves what its format uses, as most do.
+QString reserveText(Inspection const & inspection)
+{
+    auto const format =
+        std::find_if(pageFormats.begin(), pageFormats.end(),
+                     [&](PageFormat const & candidate) { return candidate.version == inspection.version; });
+    if (format == pageFormats.end() || inspection.reserve <= format->reserve)
+        return {};
+    return QStringLiteral("%1 bytes a page, of which the format uses %2")
+        .arg(inspection.reserve)
+        .arg(format->reserve);
+}
+
 QString factsText(FileInfo const & file)
 {
     QVector<QPair<QString, QString>> facts{{QStringLiteral("file"), file.path},
                                            {QStringLiteral("state"), stateText(file.inspection)}};
     if (file.content.pageSize > 0)
         facts.append({QStringLiteral("page size"), QString::number(file.content.pageSize)});
+    if (QString const reserve = reserveText(file.inspection); !reserve.isEmpty())
+        facts.append({QStringLiteral("reserved"), reserve});
     if (file.inspection.pageCount > 0)
         facts.append({QStringLiteral("pages"), QString::number(file.inspection.pageCount)});
     if (file.content.pageSize > 0)
@@ -135,6 +153,7 @@ QJsonObject asJson(FileInfo const & file)
             {QStringLiteral("reason"), reason(file)},
             {QStringLiteral("formatVersion"), file.inspection.version},
             {QStringLiteral("pageSize"), file.content.pageSize},
+            {QStringLiteral("reserve"), file.inspection.reserve},
             {QStringLiteral("pages"), file.inspection.pageCount},
             {QStringLiteral("damagedPage"), file.inspection.damagedPage},
             {QStringLiteral("version"), file.content.version},

@@ -2,6 +2,7 @@
 
 #include "sqlcipher/databaseFile.h"
 
+#include "corelib/sampleDatabase.h"
 #include "support/sqlFile.h"
 
 #include <QFile>
@@ -115,20 +116,37 @@ TEST_F(InfoCommand, TellsOfAnEncryptedDatabaseOfOlderForm)
                                             "SpeakerData           -\n"));
 }
 
+TEST_F(InfoCommand, TellsOfTheReserveOfAFileOfCompatibilityMode)
+{
+    makeSampleOfCompatibilityMode(path(QStringLiteral("a.db3")));
+    ProgramResult const result = run("info a.db3");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.messages, QString());
+    EXPECT_TRUE(
+        result.output.startsWith(QStringLiteral("file       a.db3\n"
+                                                "state      encrypted, format version 3\n"
+                                                "page size  1024\n"
+                                                "reserved   80 bytes a page, of which the format uses 48\n"
+                                                "pages      ")))
+        << result.output.toStdString();
+    EXPECT_EQ(json(QStringLiteral("a.db3")).value(QStringLiteral("reserve")).toInt(), 80);
+}
+
 TEST_F(InfoCommand, TellsTheSameAsJson)
 {
     makeSqlFile(path(QStringLiteral("a.db")), newSql);
     make("encrypt a.db a.db3");
     QJsonObject const object = json(QStringLiteral("a.db3"));
-    EXPECT_EQ(
-        object.keys().join(QLatin1Char(' ')),
-        QStringLiteral("damagedPage file formatVersion good pageSize pages reason state tables version"));
+    EXPECT_EQ(object.keys().join(QLatin1Char(' ')),
+              QStringLiteral(
+                  "damagedPage file formatVersion good pageSize pages reason reserve state tables version"));
     EXPECT_EQ(object.value(QStringLiteral("file")).toString(), QStringLiteral("a.db3"));
     EXPECT_TRUE(object.value(QStringLiteral("good")).toBool());
     EXPECT_EQ(object.value(QStringLiteral("state")).toString(), QStringLiteral("encrypted"));
     EXPECT_EQ(object.value(QStringLiteral("reason")).toString(), QString());
     EXPECT_EQ(object.value(QStringLiteral("formatVersion")).toInt(), 4);
     EXPECT_EQ(object.value(QStringLiteral("pageSize")).toInt(), 4096);
+    EXPECT_EQ(object.value(QStringLiteral("reserve")).toInt(), 80);
     EXPECT_EQ(object.value(QStringLiteral("pages")).toInt(), 6);
     EXPECT_EQ(object.value(QStringLiteral("damagedPage")).toInt(-1), 0);
     EXPECT_EQ(object.value(QStringLiteral("version")).toString(), QStringLiteral("1.2.3"));
