@@ -4,7 +4,6 @@
 
 using kestrova::test::DatabaseFolder;
 using kestrova::test::ProgramResult;
-using kestrova::test::runProgram;
 using kestrova::test::ToolFolder;
 
 namespace {
@@ -79,15 +78,28 @@ TEST(DriverOfQt, ThatCannotBeLoadedIsNamedOnceWithWhatToInstall)
 }
 
 #ifdef KESTROVA_OLD_SQLITE // which cannot be put in front of the sanitizers
+ProgramResult runWithSqlite(ToolFolder & tool, char const * version)
+{
+    tool.add(QStringLiteral("a.db3"), QString());
+    return tool.run("databases", {QStringLiteral("env"), QStringLiteral("LD_PRELOAD=" KESTROVA_OLD_SQLITE),
+                                  QStringLiteral("PRETENDED_SQLITE=%1").arg(QLatin1String(version))});
+}
+
 TEST(SqliteOfTheSystem, ThatIsTooOldIsNamedOnceWithWhatToInstall)
 {
     ToolFolder tool;
-    tool.add(QStringLiteral("a.db3"), QString());
-    ProgramResult const result = runProgram(
-        QStringLiteral("env"), {QStringLiteral("LD_PRELOAD=" KESTROVA_OLD_SQLITE),
-                                tool.path(QStringLiteral("devicelore")), QStringLiteral("databases")});
+    ProgramResult const result = runWithSqlite(tool, "3037002");
     EXPECT_EQ(result.exitCode, 4);
     EXPECT_EQ(result.output, QString());
     EXPECT_EQ(result.messages, complaint(QStringLiteral("SQLite 3.37.2")) + complaintOfTool(tool));
+}
+
+TEST(SqliteOfTheSystem, ThatIsTheOldestOneWillDo)
+{
+    ToolFolder tool;
+    ProgramResult const result = runWithSqlite(tool, "3038000");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(result.output.contains(QStringLiteral("a.db3"))) << result.output.toStdString();
+    EXPECT_EQ(result.messages, QString());
 }
 #endif
