@@ -101,9 +101,8 @@ QStringList tableColumns(QSqlDatabase const & db, QString const & table)
     return columns;
 }
 
-CDriverDatabaseInfo databaseInfoOf(QString const & connectionName)
+CDriverDatabaseInfo databaseInfoOf(QSqlDatabase const & db)
 {
-    QSqlDatabase const db = openConnection(connectionName);
     CDriverDatabaseInfo info;
     info.setVersionNumber(readVersion(db));
     info.setFilePath(db.databaseName());

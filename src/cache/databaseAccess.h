@@ -35,7 +35,7 @@ QSqlQuery preparedQuery(QSqlDatabase const & db, QString const & statement);
 /// The names of a table's columns in table order; empty when there is no such table.
 QStringList tableColumns(QSqlDatabase const & db, QString const & table);
 
-/// The description of a connection's database, with the first row of its table Version, or 0.0.0 without one.
-CDriverDatabaseInfo databaseInfoOf(QString const & connectionName);
+/// The description of a database, with the first row of its table Version, or 0.0.0 without one.
+CDriverDatabaseInfo databaseInfoOf(QSqlDatabase const & db);
 
 } // namespace kestrova::Morvel::Devicelore

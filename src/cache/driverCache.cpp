@@ -1,6 +1,7 @@
 #include "cache/driverCache.h"
 
 #include "cache/databaseAccess.h"
+#include "cache/databaseConnections.h"
 #include "cache/driverCacheFilterItemList.h"
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheObjectClassItemList.h"
@@ -70,9 +71,10 @@ int CDriverCache::openDatabases(QDir const & dir)
     if (files.isEmpty())
         return 0;
 
+    CDatabaseConnections & connections = CDatabaseConnections::of(*this);
     for (QFileInfo const & file : files) {
         QString const name = file.fileName();
-        if (!OpenEncryptedSqliteDatabase(file.absoluteFilePath(), name)) {
+        if (!connections.open(file.absoluteFilePath(), name)) {
             closeDatabases();
             return -1;
         }
@@ -88,13 +90,7 @@ int CDriverCache::openDatabases(QDir const & dir)
 void CDriverCache::closeDatabases()
 {
     objectQueries.clear(); // statements do not outlive their connection
-    for (QString const & name : std::as_const(connectionNames)) {
-        QSqlDatabase db = QSqlDatabase::database(name, false);
-        if (db.isOpen())
-            db.close();
-    }
-    for (QString const & name : std::as_const(connectionNames))
-        QSqlDatabase::removeDatabase(name);
+    CDatabaseConnections::close(*this, connectionNames);
     connectionNames.clear();
 }
 
@@ -124,7 +120,7 @@ void CDriverCache::init()
 void CDriverCache::databaseInfos(QList<CDriverDatabaseInfo> & list) const
 {
     for (QString const & name : connectionNames)
-        list.append(databaseInfoOf(name));
+        list.append(databaseInfoOf(CDatabaseConnections::of(*this).connection(name)));
 }
 
 QString CDriverCache::connectionName(CDeviceGuid const & guid)

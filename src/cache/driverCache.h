@@ -55,6 +55,10 @@ class CObjectQueries;
 ///
 /// Wherever several databases have a say, they are asked in the order in which they were opened. Trouble in a
 /// database is silent: a statement that fails counts as one without rows.
+///
+/// Connections are named after their files, and names belong to the whole process. Several caches of one
+/// thread may open files of one name: the last one owns the connection, and removes it when it closes;
+/// another one that then needs its file opens it again.
 class KESTROVA_DEVICELORE_EXPORT CDriverCache : public QObject {
 public:
     /// Makes empty catalogues and opens nothing. Throws CMemoryException when a catalogue cannot be created.
@@ -95,7 +99,8 @@ public:
     /// catalogues keep what they held.
     int openDatabases(QDir const & dir);
 
-    /// Closes and removes all connections. What has been read stays readable from memory.
+    /// Closes and removes all connections, but for those that another cache has taken over. What has been
+    /// read stays readable from memory.
     void closeDatabases();
 
     /// Empties all catalogues. Every pointer to an item of theirs dies.

@@ -1,4 +1,5 @@
 #include "cache/databaseAccess.h"
+#include "cache/databaseConnections.h"
 #include "cache/driverCache.h"
 #include "cache/driverCacheGuidItemList.h"
 #include "core/qt5Conversions.h"
@@ -40,7 +41,7 @@ std::unique_ptr<CDriverCacheGuidItem> itemOfRow(QSqlQuery const & row, CDeviceGu
 void CDriverCache::fillGuidCache()
 {
     for (QString const & name : std::as_const(connectionNames)) {
-        QSqlDatabase const db = openConnection(name);
+        QSqlDatabase const db = CDatabaseConnections::of(*this).connection(name);
         bool const hasOnoType = tableColumns(db, QStringLiteral("Guids")).contains(QStringLiteral("OnoType"));
         QSqlQuery rows = queryRows(db, guidStatement(hasOnoType));
         while (rows.next()) {
@@ -64,8 +65,8 @@ bool CDriverCache::addGuidItem(CDriverCacheGuidItem * item)
 void CDriverCache::fillHardwaretypeCache()
 {
     for (QString const & name : std::as_const(connectionNames)) {
-        QSqlQuery rows =
-            queryRows(openConnection(name), QStringLiteral("SELECT Type,DeviceType FROM Hardwaretypes"));
+        QSqlQuery rows = queryRows(CDatabaseConnections::of(*this).connection(name),
+                                   QStringLiteral("SELECT Type,DeviceType FROM Hardwaretypes"));
         while (rows.next()) // here, unlike with devices, the last row of a number stands
             setHardwareType(static_cast<unsigned char>(qt5::toInt(rows.value(0))),
                             qt5::toText(rows.value(1)));

@@ -1,6 +1,7 @@
 #include "cache/driverCache.h"
 
 #include "cache/databaseAccess.h"
+#include "cache/databaseConnections.h"
 #include "cache/driverCacheChannelKeyFilter.h"
 #include "cache/driverCacheFilterItemList.h"
 #include "core/qt5Conversions.h"
@@ -74,7 +75,7 @@ QString CDriverCache::filterNameFromDatabase(CDriverCacheChannelKeyFilter const 
         return QString(); // not remembered
 
     for (QString const & connection : std::as_const(connectionNames)) {
-        QSqlDatabase const db = openConnection(connection);
+        QSqlDatabase const db = CDatabaseConnections::of(*this).connection(connection);
         QVariant const filterId = filterIdFor(db, key);
         if (!filterId.isValid() || qt5::toInt(filterId) < 0)
             continue;

@@ -1,6 +1,7 @@
 #include "cache/driverCache.h"
 
 #include "cache/databaseAccess.h"
+#include "cache/databaseConnections.h"
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheObjectClassItemList.h"
 #include "cache/objectQueries.h"
@@ -78,7 +79,7 @@ TharnError CDriverCache::objectFromRow(QString const & guidString, CObjectDef & 
     QFlags<ObjectDefMask> const mask = object.mask();
     CDeviceGuid const guid(guidString);
     QString const connection = connectionName(guid);
-    QSqlDatabase const db = openConnection(connection);
+    QSqlDatabase const db = CDatabaseConnections::of(*this).connection(connection);
     if (!db.isValid())
         return TharnFailed;
 
@@ -181,7 +182,7 @@ void CDriverCache::fillOcaCLassIdList()
     // An id above 255 is cut, so that an item may take the place of another, which nobody deletes then.
     QHash<unsigned short, CDriverCacheObjectClassItem *> added;
     for (QString const & name : std::as_const(connectionNames)) {
-        QSqlQuery rows = queryRows(openConnection(name),
+        QSqlQuery rows = queryRows(CDatabaseConnections::of(*this).connection(name),
                                    QStringLiteral("SELECT Id, OcaClassId, Description FROM ObjectClasses"));
         while (rows.next()) {
             int const id = qt5::toInt(rows.value(0));

@@ -92,9 +92,14 @@ void CDriverCachePropertyFilter::addFilter(CDevicePropertyFilterItem const & def
     }
 }
 
+bool CDriverCachePropertyFilter::isEmpty() const
+{
+    return filters->isEmpty();
+}
+
 void CDriverCachePropertyFilter::fillIfEmpty(unsigned char accessLevel, QStringList const & connectionNames)
 {
-    if (filters->isEmpty())
+    if (isEmpty())
         readFiltersFromDatabase(accessLevel, connectionNames);
 }
 

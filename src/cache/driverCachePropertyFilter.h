@@ -27,6 +27,9 @@ public:
 
     virtual ~CDriverCachePropertyFilter();
 
+    /// Whether the next question reads the databases.
+    bool isEmpty() const;
+
     /// Adds the filters up to that level. The first database that defines a filter decides its statement and
     /// level; what later ones give for the same name is appended without duplicates. The first one's own
     /// duplicates stay.

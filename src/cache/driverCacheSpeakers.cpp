@@ -1,6 +1,7 @@
 #include "cache/driverCache.h"
 
 #include "cache/databaseAccess.h"
+#include "cache/databaseConnections.h"
 #include "cache/driverCacheGuidItemList.h"
 #include "cache/driverCacheSpeakerItemList.h"
 #include "core/qt5Conversions.h"
@@ -33,7 +34,7 @@ CSpeakerDef speakerOfRow(QSqlQuery const & row, CSpeakerClass const & speakerCla
 void CDriverCache::fillSpeakerList()
 {
     for (QString const & name : std::as_const(connectionNames)) {
-        QSqlDatabase const db = openConnection(name);
+        QSqlDatabase const db = CDatabaseConnections::of(*this).connection(name);
         fillSpeakerClasses(db);
         fillSpeakers(db);
     }
@@ -74,7 +75,7 @@ void CDriverCache::fillSpeakers(QSqlDatabase const & db)
 
 void CDriverCache::fillGuidSpeakerList(CDeviceGuid const & guid)
 {
-    QSqlDatabase const db = openConnection(connectionName(guid));
+    QSqlDatabase const db = CDatabaseConnections::of(*this).connection(connectionName(guid));
     if (!db.isValid())
         return;
     QSqlQuery rows = preparedQuery(

@@ -34,6 +34,12 @@ void CDriverCacheTextItemList::setLanguage(QString const & language)
     clear();
 }
 
+bool CDriverCacheTextItemList::hasGroup(unsigned int offset, QString const & connection) const
+{
+    Texts const * const texts = textsOfConnection.value(connection);
+    return texts != nullptr && texts->contains(offset);
+}
+
 QString CDriverCacheTextItemList::text(unsigned int offset, int value, QString const & connection)
 {
     Texts const * texts = textsOfConnection.value(connection);
@@ -43,9 +49,11 @@ QString CDriverCacheTextItemList::text(unsigned int offset, int value, QString c
     }
     if (texts == nullptr)
         return QString();
-    for (QPair<int, QString> const & entry : texts->values(offset)) {
-        if (entry.first == value)
-            return entry.second;
+    // The row read last comes first.
+    for (auto entry = texts->constFind(offset); entry != texts->constEnd() && entry.key() == offset;
+         ++entry) {
+        if (entry->first == value)
+            return entry->second;
     }
     return QString();
 }

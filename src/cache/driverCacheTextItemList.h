@@ -31,6 +31,9 @@ public:
     /// Forgets all texts when the language is another one.
     void setLanguage(QString const & language);
 
+    /// Whether the next question for the group is answered without the database.
+    bool hasGroup(unsigned int offset, QString const & connection) const;
+
     /// The text of \a value in the group; of several rows with that value, the last one's. Null when there is
     /// no such group or value; a text that is empty in the database is not null.
     QString text(unsigned int offset, int value, QString const & connection);

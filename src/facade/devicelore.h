@@ -37,6 +37,8 @@ public:
     /// Makes a cache of its own and opens every file "*.db3" in the application's directory, in the order of
     /// their names, ignoring case. Without databases, or when one cannot be opened, the facade works and
     /// finds nothing.
+    ///
+    /// Another facade of the same thread may do so too; each lives on when the other is destroyed.
     explicit CDevicelore(QObject * parent = nullptr);
 
     /// Uses \a driverCache and opens the application's databases on it, behind those that are open there

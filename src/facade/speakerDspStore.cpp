@@ -82,7 +82,7 @@ void CDevicelore::GetDspDataDatabaseInfos(QList<CDriverDatabaseInfo> & list) con
 {
     if (!OpenDspDataDatabase(connectionOfDspData))
         return;
-    list.append(databaseInfoOf(connectionOfDspData));
+    list.append(databaseInfoOf(openConnection(connectionOfDspData)));
     CloseDspDataDatabase(connectionOfDspData);
 }
 

@@ -274,25 +274,6 @@ TEST(DatabaseSet, TheDestructorRemovesTheConnections)
     EXPECT_FALSE(QSqlDatabase::contains(QStringLiteral("a.db3")));
 }
 
-TEST(DatabaseSet, AConnectionThatAnotherCacheTookAwayIsSilent)
-{
-    DatabaseFolder folder;
-    folder.add(QStringLiteral("a.db3"), oneDevice);
-    MessageRecorder recorder;
-    ExposedCache cache;
-    cache.openDatabases(folder.dir());
-    {
-        CDriverCache other;
-        other.openDatabases(folder.dir());
-    }
-    QList<CDriverDatabaseInfo> const infos = infosOf(cache);
-    ASSERT_EQ(infos.size(), 1);
-    EXPECT_EQ(infos.first(), CDriverDatabaseInfo());
-    cache.init();
-    EXPECT_EQ(cache.guidItems->count(), 0);
-    EXPECT_EQ(recorder.messages(), QStringList());
-}
-
 TEST(DatabaseSet, AConnectionThatWasClosedFromOutsideIsOpenedAgain)
 {
     DatabaseFolder plain;

@@ -1,4 +1,5 @@
 #include "facade/devicelore.h"
+#include "records/objectDef.h"
 #include "support/messageRecorder.h"
 #include "support/print.h"
 #include "support/sqlFile.h"
@@ -9,6 +10,11 @@
 #include <QDir>
 #include <QFile>
 #include <QSqlDatabase>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
 
 using namespace kestrova::Morvel::Devicelore;
 using kestrova::test::makeSqlFile;
@@ -54,6 +60,27 @@ protected:
         if (dspData.exists()) {
             ASSERT_TRUE(dspData.removeRecursively());
         }
+    }
+
+    /// Makes a database of one device with one object.
+    static void makeDatabase()
+    {
+        makeSqlFile(inApplicationFolder("a.db3"), QStringLiteral(R"sql(
+            CREATE TABLE Guids (GUID, DeviceType, Version, Access, OnoType);
+            CREATE TABLE Objects (id, Name, BoxNumber, ObjectNumber, Format, Description);
+            CREATE TABLE guidsandobjects (objectid, guid);
+            INSERT INTO Guids VALUES ('C7000005', 'Talvo', '1', 0, 1);
+            INSERT INTO Objects VALUES (1, 'Gain', 1, 2, '%3d', 'The gain'), (2, 'Mute', 1, 3, '%1d', 'The mute');
+            INSERT INTO guidsandobjects VALUES (1, 'C7000005'), (2, 'C7000005');
+        )sql"));
+    }
+
+    static std::string displayNameOf(Facade & facade, char const * object)
+    {
+        CObjectDef definition;
+        definition.setMask(ObjectDefDisplayName);
+        facade.GetObjectDef(CDeviceGuid(0xC7000005), QLatin1String(object), definition, nullptr);
+        return definition.displayName().toStdString();
     }
 
     static void makeDspData(char const * sql)
@@ -282,6 +309,33 @@ TEST_F(ApplicationFolder, IsSilentAboutDspDataWithoutADatabase)
     EXPECT_FALSE(facade.GetConfigSpeakerData(CDeviceGuid(0xC70002AB), 12).IsValid());
     EXPECT_EQ(recorder.messages(), QStringList());
     EXPECT_FALSE(QSqlDatabase::contains(dspConnection));
+}
+
+TEST_F(ApplicationFolder, ServesFacadesThatDieInAnyOrder)
+{
+    makeDatabase();
+    MessageRecorder recorder;
+    std::vector<int> order{0, 1, 2};
+    do {
+        SCOPED_TRACE(testing::PrintToString(order));
+        std::vector<std::unique_ptr<Facade>> facades;
+        for (int i = 0; i < 3; ++i) {
+            facades.push_back(std::make_unique<Facade>());
+            EXPECT_EQ(displayNameOf(*facades.back(), "Gain"), "The gain");
+        }
+        for (int const dying : order) {
+            facades[static_cast<std::size_t>(dying)].reset();
+            for (auto const & facade : facades) {
+                if (facade) {
+                    EXPECT_EQ(displayNameOf(*facade, "Mute"), "The mute");
+                    facade->setDeviceAccessLevel(facade->deviceAccessLevel() == 1 ? 2 : 1);
+                    EXPECT_EQ(displayNameOf(*facade, "Gain"), "The gain");
+                }
+            }
+        }
+        EXPECT_FALSE(QSqlDatabase::contains(QStringLiteral("a.db3")));
+    } while (std::next_permutation(order.begin(), order.end()));
+    EXPECT_EQ(recorder.messages(), QStringList());
 }
 
 } // namespace kestrova::test::applicationFolder
