@@ -2,6 +2,7 @@
 
 #include "sqlcipher/bytes.h"
 #include "sqlcipher/firstPage.h"
+#include "sqlcipher/otherSettings.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -97,6 +98,11 @@ Inspection inspectWithoutFirstPage(QFile & file, QByteArray const & start, Key c
             .arg(file.fileName()));
 }
 
+QString otherSettingsOf(QFile & file, Key const & key)
+{
+    return file.seek(0) ? otherSettings(file.read(largestPageSizeOfAnySettings), key) : QString();
+}
+
 Inspection inspectPages(QFile & file, FirstPage const & firstPage, Progress const & progress)
 {
     qint64 const pageCount = firstPage.header.pageCount(file.size());
@@ -146,6 +152,15 @@ Inspection inspectDatabase(QString const & path, Key const & key, Progress const
     if (start.isEmpty())
         return unreadable(file);
     auto const firstPage = readFirstPage(bytesOf(start), start.size(), key);
+    if (!firstPage || !firstPage->codec) {
+        QString const settings = otherSettingsOf(file, key);
+        if (!settings.isEmpty())
+            return finding(FileState::OtherSettings,
+                           QStringLiteral("%1 opens with the key of this build, but with settings of "
+                                          "SQLCipher that are not supported: %2; export it anew with the "
+                                          "default settings of version 4 or 3.")
+                               .arg(path, settings));
+    }
     if (!firstPage)
         return inspectWithoutFirstPage(file, start, key);
     Inspection result = inspectLayout(file, *firstPage, progress);

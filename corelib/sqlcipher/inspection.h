@@ -12,16 +12,17 @@ namespace kestrova::sqlcipher {
 using Progress = std::function<void(qint64 done, qint64 all)>;
 
 enum class FileState {
-    Plain,        ///< a plain SQLite file
-    Encrypted,    ///< every page of it opens with the key
-    Missing,      ///< no such file
-    NotAFile,     ///< a folder, a pipe or the like
-    Unreadable,   ///< no permission, or the disk fails
-    Empty,        ///< 0 bytes
-    NotADatabase, ///< neither a SQLite file nor anything that looks encrypted
-    WrongKey,     ///< looks encrypted, but no page opens with the key
-    DamagedPage,  ///< opens with the key, except for the page `damagedPage`
-    CutShort,     ///< fewer pages than its header states, or no whole number of pages
+    Plain,         ///< a plain SQLite file
+    Encrypted,     ///< every page of it opens with the key
+    Missing,       ///< no such file
+    NotAFile,      ///< a folder, a pipe or the like
+    Unreadable,    ///< no permission, or the disk fails
+    Empty,         ///< 0 bytes
+    NotADatabase,  ///< neither a SQLite file nor anything that looks encrypted
+    OtherSettings, ///< opens with the key, but under settings of SQLCipher that are not supported
+    WrongKey,      ///< looks encrypted, but no page opens with the key
+    DamagedPage,   ///< opens with the key, except for the page `damagedPage`
+    CutShort,      ///< fewer pages than its header states, or no whole number of pages
 };
 
 /// What an inspection found.

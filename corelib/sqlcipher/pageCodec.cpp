@@ -73,7 +73,7 @@ PageCodec::MacContext PageCodec::newMac(PageFormat const & format, Key const & k
     constexpr int iterations = 2; // the key is no password: it has its 256 bits of entropy already
     Key macKey;
     if (PKCS5_PBKDF2_HMAC(reinterpret_cast<char const *>(key.data()), keySize, macSalt.data(), saltSize,
-                          iterations, EVP_get_digestbyname(format.digest), keySize, macKey.data()) != 1)
+                          iterations, EVP_get_digestbyname(format.keyDigest), keySize, macKey.data()) != 1)
         return nullptr;
 
     std::unique_ptr<EVP_MAC, Deleter<EVP_MAC_free>> const hmac(

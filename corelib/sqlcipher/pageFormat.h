@@ -17,15 +17,16 @@ using Salt = std::array<unsigned char, saltSize>;
 struct PageFormat {
     int version;
     int pageSize;
-    int reserve;         ///< bytes at the end of a page for IV, HMAC and padding
-    int macSize;         ///< bytes of the HMAC
-    char const * digest; ///< of the HMAC and of the derivation of its key
+    int reserve;            ///< bytes at the end of a page for IV, HMAC and padding
+    int macSize;            ///< bytes of the HMAC
+    char const * digest;    ///< of the HMAC
+    char const * keyDigest; ///< of the derivation of the HMAC's key
 };
 
 /// In the order in which they are tried on a file.
 inline constexpr std::array<PageFormat, 2> pageFormats = {{
-    {4, 4096, 80, 64, "SHA512"},
-    {3, 1024, 48, 20, "SHA1"},
+    {4, 4096, 80, 64, "SHA512", "SHA512"},
+    {3, 1024, 48, 20, "SHA1", "SHA1"},
 }};
 
 inline constexpr PageFormat const & version4 = pageFormats[0];

@@ -129,6 +129,11 @@ INSTANTIATE_TEST_SUITE_P(
         InspectedFile{"Version3",
                       [](QString const & path) { makeEncryptedSample(path, version3, wrongKey()); },
                       FileState::WrongKey, 0, 0, wrongKeyMessage},
+        InspectedFile{"OtherSettings",
+                      [](QString const & path) {
+                          makeEncryptedSample(path, {0, 8192, 80, 64, "SHA512", "SHA512"}, wrongKey());
+                      },
+                      FileState::WrongKey, 0, 0, wrongKeyMessage},
         // Another salt is another key to every page.
         InspectedFile{"DamagedSalt",
                       [](QString const & path) {
@@ -159,6 +164,65 @@ INSTANTIATE_TEST_SUITE_P(DamagedPage, InspectedDatabase,
                                            damaged("Version3Page2", version3, 1024, 2),
                                            damaged("Version3Page7", version3, 6 * 1024, 7)),
                          [](auto const & row) { return row.param.name; });
+
+InspectedFile ofOtherSettings(char const * name, sqlcipher::PageFormat const & format,
+                              std::string const & settings,
+                              void (*make)(QString const & path, sqlcipher::PageFormat const & format))
+{
+    return {name,
+            [format, make](QString const & path) { make(path, format); },
+            FileState::OtherSettings,
+            0,
+            0,
+            "FILE opens with the key of this build, but with settings of SQLCipher that are not supported: " +
+                settings + "; export it anew with the default settings of version 4 or 3."};
+}
+
+void makeSampleOf(QString const & path, sqlcipher::PageFormat const & format)
+{
+    makeEncryptedSample(path, format);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    OtherSettings, InspectedDatabase,
+    ::testing::Values(
+        ofOtherSettings("PageSize1024", {0, 1024, 80, 64, "SHA512", "SHA512"},
+                        "cipher_page_size = 1024, cipher_hmac_algorithm = HMAC_SHA512, "
+                        "cipher_kdf_algorithm = PBKDF2_HMAC_SHA512",
+                        makeSampleOf),
+        ofOtherSettings("PageSize8192", {0, 8192, 80, 64, "SHA512", "SHA512"},
+                        "cipher_page_size = 8192, cipher_hmac_algorithm = HMAC_SHA512, "
+                        "cipher_kdf_algorithm = PBKDF2_HMAC_SHA512",
+                        makeSampleOf),
+        ofOtherSettings("PageSize65536", {0, 65536, 80, 64, "SHA512", "SHA512"},
+                        "cipher_page_size = 65536, cipher_hmac_algorithm = HMAC_SHA512, "
+                        "cipher_kdf_algorithm = PBKDF2_HMAC_SHA512",
+                        makeSampleOf),
+        ofOtherSettings("HmacOfSha256", {0, 4096, 48, 32, "SHA256", "SHA256"},
+                        "cipher_page_size = 4096, cipher_hmac_algorithm = HMAC_SHA256, "
+                        "cipher_kdf_algorithm = PBKDF2_HMAC_SHA256",
+                        makeSampleOf),
+        ofOtherSettings("HmacOfSha1", {0, 4096, 48, 20, "SHA1", "SHA512"},
+                        "cipher_page_size = 4096, cipher_hmac_algorithm = HMAC_SHA1, "
+                        "cipher_kdf_algorithm = PBKDF2_HMAC_SHA512",
+                        makeSampleOf),
+        ofOtherSettings("KeyOfTheHmacBySha1", {0, 4096, 80, 64, "SHA512", "SHA1"},
+                        "cipher_page_size = 4096, cipher_hmac_algorithm = HMAC_SHA512, "
+                        "cipher_kdf_algorithm = PBKDF2_HMAC_SHA1",
+                        makeSampleOf),
+        ofOtherSettings("PlainHeader", version4,
+                        "cipher_plaintext_header_size = 32 (the salt is not in the file), cipher_page_size "
+                        "= 4096, cipher_hmac_algorithm = HMAC_SHA512",
+                        makeSampleOfPlainHeader),
+        ofOtherSettings("PlainHeaderAndAShorterHmac", version3,
+                        "cipher_plaintext_header_size = 32 (the salt is not in the file), cipher_page_size "
+                        "= 1024, cipher_hmac_algorithm = HMAC_SHA256 or HMAC_SHA1",
+                        makeSampleOfPlainHeader),
+        ofOtherSettings("PlainHeaderAndNoHmac", {0, 4096, 16, 0, "SHA512", "SHA512"},
+                        "cipher_plaintext_header_size = 32 (the salt is not in the file), cipher_page_size "
+                        "= 4096, cipher_use_hmac = OFF",
+                        makeSampleOfPlainHeader)),
+    [](auto const & row) { return row.param.name; });
 
 /// With other bytes in the header of a first page that is authentic all the same.
 InspectedFile relabelledDatabase(char const * name, sqlcipher::PageFormat const & format, int offset,

@@ -119,6 +119,21 @@ INSTANTIATE_TEST_SUITE_P(
         withHeader("Version3WithAByteTooLittleReserve", sqlcipher::version3, 20, QByteArray("\x2F", 1))),
     [](auto const & row) { return row.param.name; });
 
+INSTANTIATE_TEST_SUITE_P(
+    OtherSettings, RefusedDatabase,
+    ::testing::Values(RefusedFile{"PageSize8192",
+                                  [](QString const & path) {
+                                      makeEncryptedSample(path, {0, 8192, 80, 64, "SHA512", "SHA512"});
+                                  }},
+                      RefusedFile{"HmacOfSha256",
+                                  [](QString const & path) {
+                                      makeEncryptedSample(path, {0, 4096, 48, 32, "SHA256", "SHA256"});
+                                  }},
+                      RefusedFile{
+                          "PlainHeader",
+                          [](QString const & path) { makeSampleOfPlainHeader(path, sqlcipher::version4); }}),
+    [](auto const & row) { return row.param.name; });
+
 // SQLite would overflow its stack, or read for years.
 INSTANTIATE_TEST_SUITE_P(HostileSchema, RefusedDatabase,
                          ::testing::Values(RefusedFile{"ViewsWithinViews",

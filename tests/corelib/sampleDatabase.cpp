@@ -7,6 +7,7 @@
 
 #include <QFile>
 
+#include <openssl/evp.h>
 #include <sqlite3.h>
 
 #include <algorithm>
@@ -88,6 +89,28 @@ void makeSampleOfCompatibilityMode(QString const & path)
     makeReservedSample(plain, sqlcipher::version3.pageSize, 80);
     encryptPages(path, contentOf(plain), sqlcipher::version3);
     QFile::remove(plain);
+}
+
+void makeSampleOfPlainHeader(QString const & path, sqlcipher::PageFormat const & format)
+{
+    QString const plainPath = path + QStringLiteral(".plain");
+    makeReservedSample(plainPath, format.pageSize, format.reserve);
+    QByteArray const plain = contentOf(plainPath);
+    QFile::remove(plainPath);
+    encryptPages(path, plain, format);
+    QByteArray stored = contentOf(path);
+    constexpr int plainBytes = 32;
+    int const end = format.pageSize - format.reserve;
+    stored.replace(0, plainBytes, plain.left(plainBytes));
+    int written = 0;
+    EVP_CIPHER_CTX * const context = EVP_CIPHER_CTX_new();
+    EVP_CipherInit_ex(context, EVP_aes_256_cbc(), nullptr, sqlcipher::databaseKey.data(),
+                      sqlcipher::bytesOf(stored) + end, 1);
+    EVP_CIPHER_CTX_set_padding(context, 0);
+    EVP_CipherUpdate(context, reinterpret_cast<unsigned char *>(stored.data()) + plainBytes, &written,
+                     sqlcipher::bytesOf(plain) + plainBytes, end - plainBytes);
+    EVP_CIPHER_CTX_free(context);
+    writeContent(path, stored);
 }
 
 void changeHeader(QString const & path, sqlcipher::PageFormat const & format, int offset,

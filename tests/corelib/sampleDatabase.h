@@ -37,6 +37,10 @@ void encryptPages(QString const & path, QByteArray const & plain, sqlcipher::Pag
 /// 4 needs, and 48 are used.
 void makeSampleOfCompatibilityMode(QString const & path);
 
+/// The sample with the first 32 bytes of its header left plain, as the setting cipher_plaintext_header_size =
+/// 32 leaves them.
+void makeSampleOfPlainHeader(QString const & path, sqlcipher::PageFormat const & format);
+
 /// Puts \a bytes at \a offset of the header of an encrypted database. Its first page stays authentic.
 void changeHeader(QString const & path, sqlcipher::PageFormat const & format, int offset,
                   QByteArray const & bytes);

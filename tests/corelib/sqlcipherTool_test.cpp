@@ -3,6 +3,7 @@
 
 #include "sqlcipher/databaseFile.h"
 
+#include <QFile>
 #include <QProcess>
 
 namespace kestrova::test {
@@ -67,6 +68,45 @@ TEST_F(SqlcipherTool, ReadsWhatIsEncryptedForVersion3)
               "3000|4501500");
     EXPECT_EQ(runTool(QStringLiteral("SELECT length(data), hex(substr(data, 19999)) FROM Blobs")),
               "20000|4142");
+}
+
+TEST_F(SqlcipherTool, WritesUnderOtherSettingsWhatIsKnownAndRefused)
+{
+    struct Row {
+        char const * pragmas;
+        char const * settings;
+    };
+
+    Row const rows[] = {
+        {"PRAGMA cipher_page_size = 512; PRAGMA cipher_use_hmac = OFF;",
+         "cipher_page_size = 512, cipher_use_hmac = OFF"},
+        {"PRAGMA cipher_use_hmac = OFF;", "cipher_page_size = 1024, cipher_use_hmac = OFF"},
+        {"PRAGMA cipher_page_size = 65536; PRAGMA cipher_use_hmac = OFF;",
+         "cipher_page_size = 65536, cipher_use_hmac = OFF"},
+        {"PRAGMA cipher_page_size = 2048;",
+         "cipher_page_size = 2048, cipher_hmac_algorithm = HMAC_SHA1, cipher_kdf_algorithm = "
+         "PBKDF2_HMAC_SHA1"},
+        {"PRAGMA cipher_page_size = 4096;",
+         "cipher_page_size = 4096, cipher_hmac_algorithm = HMAC_SHA1, cipher_kdf_algorithm = "
+         "PBKDF2_HMAC_SHA1"},
+        {"PRAGMA cipher_page_size = 65536;",
+         "cipher_page_size = 65536, cipher_hmac_algorithm = HMAC_SHA1, cipher_kdf_algorithm = "
+         "PBKDF2_HMAC_SHA1"},
+    };
+    for (Row const & row : rows) {
+        SCOPED_TRACE(row.pragmas);
+        runTool(QLatin1String(row.pragmas) + sampleSql());
+        sqlcipher::Inspection const inspection = sqlcipher::inspectDatabase(file);
+        EXPECT_EQ(inspection.state, sqlcipher::FileState::OtherSettings);
+        EXPECT_EQ(inspection.message.toStdString(),
+                  file.toStdString() +
+                      " opens with the key of this build, but with settings of SQLCipher that are not "
+                      "supported: " +
+                      row.settings + "; export it anew with the default settings of version 4 or 3.");
+        EXPECT_FALSE(open(file));
+        EXPECT_TRUE(QFile::remove(file));
+    }
+    EXPECT_EQ(messages(), "");
 }
 
 TEST_F(SqlcipherTool, ReadsTheSampleOfCompatibilityMode)

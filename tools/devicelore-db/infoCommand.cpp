@@ -42,6 +42,8 @@ QString stateName(FileState state)
         return QStringLiteral("empty");
     case FileState::NotADatabase:
         return QStringLiteral("not a database");
+    case FileState::OtherSettings:
+        return QStringLiteral("other settings");
     case FileState::WrongKey:
         return QStringLiteral("wrong key");
     case FileState::DamagedPage:

@@ -215,6 +215,9 @@ TEST_F(InfoCommand, SaysWhyAFileDoesNotOpen)
     otherKey[31] ^= 1;
     kestrova::sqlcipher::encryptDatabase(path(QStringLiteral("plain.db")), path(QStringLiteral("other.db3")),
                                          kestrova::sqlcipher::version4, otherKey);
+    kestrova::sqlcipher::encryptDatabase(path(QStringLiteral("plain.db")),
+                                         path(QStringLiteral("large pages.db3")),
+                                         {0, 8192, 80, 64, "SHA512", "SHA512"});
     make("encrypt plain.db short.db3");
     ASSERT_TRUE(QFile::resize(path(QStringLiteral("short.db3")), 5 * pageSize));
     ASSERT_TRUE(QFile::copy(path(QStringLiteral("plain.db")), path(QStringLiteral("short.db"))));
@@ -232,6 +235,12 @@ TEST_F(InfoCommand, SaysWhyAFileDoesNotOpen)
         QStringLiteral("other.db3"), "wrong key",
         QStringLiteral("other.db3 does not open with the key of this build; encrypt it with that key, or "
                        "check that it is a database at all."));
+    expectTrouble(QStringLiteral("large pages.db3"), "other settings",
+                  QStringLiteral(
+                      "large pages.db3 opens with the key of this build, but with settings of SQLCipher that "
+                      "are not supported: cipher_page_size = 8192, cipher_hmac_algorithm = HMAC_SHA512, "
+                      "cipher_kdf_algorithm = PBKDF2_HMAC_SHA512; export it anew with the default settings "
+                      "of version 4 or 3."));
     expectTrouble(QStringLiteral("short.db3"), "cut short",
                   QStringLiteral("short.db3 is cut short: 20480 bytes instead of 24576; copy it again."));
     expectTrouble(QStringLiteral("short.db"), "cut short",
