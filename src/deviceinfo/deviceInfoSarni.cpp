@@ -87,8 +87,11 @@ QVariant CDeviceInfoSarni::defaultSpeaker(CDriverPropertyTarget const & target, 
 QVariant CDeviceInfoSarni::validatedSpeaker(CDriverPropertyTarget const & target, OutputMode mode,
                                             CDriverCache * cache) const
 {
-    if (!sarni::takesSpeakers(target.deviceChannel(), mode))
-        return defaultSpeaker(target, mode, cache);
+    if (!sarni::takesSpeakers(target.deviceChannel(), mode)) {
+        // Without a type no speaker is listed, and the default comes back. Asking reads the device's speakers.
+        QFlags<SpeakerType> const noType;
+        return listedOrDefaultSpeaker(target, mode, noType, mode, cache);
+    }
     sarni::Use const use = sarni::useOf(target.deviceChannel(), mode);
     return listedOrDefaultSpeaker(target, mode, use.types, OutputMode(use.listMode), cache);
 }

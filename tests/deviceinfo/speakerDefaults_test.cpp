@@ -287,6 +287,36 @@ TEST(ValidatedSpeaker, IsFoundAlthoughTheDevicesSpeakersWereNotReadYet)
     EXPECT_EQ(world.cache.speakerItems->listSpeakersForDevice(hesko, ids), TharnNoError);
 }
 
+TEST(ValidatedSpeaker, ReadsTheDevicesSpeakersAlsoWhereNoneFits)
+{
+    struct Row {
+        char const * name;
+        quint32 guid;
+        int mode;
+        int channel;
+        char const * speaker;
+    };
+
+    Row const rows[] = {
+        {"a channel above those of the device", 0xC7000012, 1, 5, "int 71"},
+        {"a channel below them", 0xC7000013, 8, 0, "int 37"},
+        {"no mode", 0xC7000012, -1, 1, "double 500"},
+        {"a mode above the table", 0xC7000012, 9, 1, "double 500"},
+        {"a mode that Talvo does not know", 0xC7000005, 3, 1, "double 500"},
+        {"Fenra", 0xC7000020, 0, 1, "double 500"},
+    };
+    for (Row const & row : rows) {
+        SCOPED_TRACE(row.name);
+        ModelWorld world;
+        QList<unsigned short> ids;
+        ASSERT_EQ(world.cache.speakerItems->listSpeakersForDevice(CDeviceGuid(row.guid), ids), TharnNotFound);
+        EXPECT_EQ(said(world.cache.validateSpeakerId(target(row.guid, row.channel, 1), OutputMode(row.mode))),
+                  row.speaker);
+        EXPECT_EQ(world.cache.speakerItems->listSpeakersForDevice(CDeviceGuid(row.guid), ids), TharnNoError);
+        EXPECT_EQ(ids, (QList<unsigned short>{1, 2, 3, 4}));
+    }
+}
+
 TEST(ValidatedSpeaker, ZeroIsKeptWhereItIsListed)
 {
     ModelWorld world;
