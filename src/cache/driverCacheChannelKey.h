@@ -30,8 +30,7 @@ protected:
 
     CKeyTextPart channelInfoText;
 
-private:
-    mutable CDeviceChannelInfo channelInfo_;
+    mutable CDeviceChannelInfo channelInfo_; ///< changing it needs initChannelInfoString() for its text
 };
 
 } // namespace kestrova::Morvel::Devicelore

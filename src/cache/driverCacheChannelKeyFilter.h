@@ -39,9 +39,8 @@ protected:
     void initFilternumberString();
     void initKeyString() override;
 
-private:
     unsigned char filterNumber_ = 0;
-    bool hasNumberString = false;
+    bool hasNumberString = false; ///< filterNumberString() spells the number, and is not empty
 };
 
 } // namespace kestrova::Morvel::Devicelore

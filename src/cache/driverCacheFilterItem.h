@@ -56,7 +56,7 @@ public:
 
     void setTextOffset(quint32 textOffset) { textOffset_ = textOffset; }
 
-private:
+protected:
     unsigned char filterId_ = 0;
     unsigned char filterNumber_ = 0;
     unsigned char filterType_ = 0;

@@ -49,7 +49,7 @@ public:
     unsigned char onoType() const;
     void setOnoType(unsigned char onoType);
 
-private:
+protected:
     GuidAccess access_;
     QString deviceType_;
     QString firmwareFrom_;

@@ -56,7 +56,8 @@ protected:
     /// them.
     QChar * beginKeyText(int rest);
 
-private:
+    // A subclass that sets the parts makes the text anew by initKeyString(). The text of the GUID is kept
+    // as text only where guid_ does not spell it: initGuidString() lets it follow guid_.
     QString guidText; ///< as given to the constructor, in upper case
     QString key_;
     CDeviceGuid guid_;

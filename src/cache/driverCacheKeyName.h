@@ -30,7 +30,6 @@ protected:
 
     void initKeyString() override;
 
-private:
     QString objectName_;
 };
 

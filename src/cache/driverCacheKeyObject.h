@@ -37,9 +37,8 @@ protected:
 
     static constexpr int numberBytes = 2;
 
-private:
     unsigned short objectNumber_ = 0;
-    bool hasNumberString = false;
+    bool hasNumberString = false; ///< objectNumberString() spells the number, and is not empty
 };
 
 } // namespace kestrova::Morvel::Devicelore

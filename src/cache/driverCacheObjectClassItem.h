@@ -35,7 +35,7 @@ public:
     /// Sixteen numbers, of which the first fieldCount() mean something.
     unsigned short const * fields() const { return fields_.data(); }
 
-private:
+protected:
     unsigned short classId_;
     QString description_;
     unsigned char fieldCount_;

@@ -51,7 +51,7 @@ public:
     /// Writes number, ways and way names to \a speakerClass.
     void toSpeakerClass(CSpeakerClass & speakerClass) const;
 
-private:
+protected:
     unsigned char speakerClass_;
     QString className_;
     QString classType_;

@@ -34,7 +34,7 @@ public:
     CVersionNumber versionNumber() const;
     void setVersionNumber(CVersionNumber const & versionNumber);
 
-private:
+protected:
     QString name_;
     QString filePath_;
     CVersionNumber versionNumber_;

@@ -334,6 +334,9 @@ protected:
     /// and counts no other users.
     CDriverCache * cache = nullptr;
 
+    /// The facade's own copy: the levels of the cache are changed by setDeviceAccessLevel() alone.
+    unsigned char deviceAccessLevel_ = 1;
+
 private:
     bool isChannelPossible(CDeviceChannelInfo const * channelInfo) const;
     bool isSupportedBySpeaker(CDeviceGuid const & guid, QString const & name,
@@ -341,8 +344,6 @@ private:
     bool visibleModel(CDeviceGuid const & guid, QString & model) const;
     void correctDelayMinimum(QString const & name, CObjectDef & target,
                              CDeviceChannelInfo const * channelInfo) const;
-
-    unsigned char deviceAccessLevel_ = 1;
 };
 
 /// The version of the library, 1.4.19. The last number comes first: \a bugfix is 19, \a minor 4, \a major 1.

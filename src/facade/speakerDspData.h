@@ -50,7 +50,7 @@ public:
     QString GetMd5() const;
     void SetMd5(QString const & md5);
 
-private:
+protected:
     QString deviceType;
     CDeviceGuid deviceGuid;
     quint16 speakerId = 0;

@@ -50,7 +50,7 @@ public:
     /// "12345"), "IN", "OUT", or an empty text.
     QString GetIdString() const;
 
-private:
+protected:
     DeviceChannelType channelType = ChannelTypeNone;
     quint32 speakerId = 0;
 };

@@ -158,7 +158,7 @@ public:
     /// never set are not known because one of them was changed.
     void modifyFlags(QFlags<PropertyFlag> set, QFlags<PropertyFlag> clear);
 
-private:
+protected:
     int decimals_ = 0;
     QString displayName_;
     QFlags<PropertyFlag> flags_;

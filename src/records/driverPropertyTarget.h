@@ -57,7 +57,7 @@ public:
     /// here, "no qualifier" there.
     void SetDeviceChannelInfo(CDeviceChannelInfo const * newInfo);
 
-private:
+protected:
     DeviceChannel deviceChannel_ = ChannelFirst;
     CDeviceGuid guid_;
     QString propertyName_;

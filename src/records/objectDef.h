@@ -218,7 +218,7 @@ public:
     /// What stands behind the conversion, which need not start with "%"; the byte 0x81 stands for "Ohm".
     static QString unit(QString const & format);
 
-private:
+protected:
     QString name_;
     QString displayName_;
     unsigned short boxNumber = 0;

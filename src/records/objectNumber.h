@@ -49,7 +49,7 @@ public:
     DeviceChannel channel() const;
     void setChannel(DeviceChannel channel);
 
-private:
+protected:
     unsigned short fullObject_ = 0;
 };
 

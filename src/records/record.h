@@ -51,10 +51,11 @@ public:
     unsigned char channel() const;
     void setChannel(DeviceChannel channel);
 
+protected:
+    unsigned int recordKey_ = 0;
+
 private:
     CObjectNumber object() const { return CObjectNumber(objectNumber()); }
-
-    unsigned int recordKey_ = 0;
 };
 
 } // namespace kestrova::Morvel::Devicelore

@@ -65,7 +65,7 @@ public:
     bool isWFSetup() const;
     void setIsWFSetup(bool isWFSetup);
 
-private:
+protected:
     unsigned short speakerId_ = 0;
     QString name_;
     CSpeakerClass speakerClass_;

@@ -93,9 +93,7 @@ public:
     /// The names of all ways of that way's class. Empty when there is no such way or nothing was set for it.
     QString wayNameShort(int way) const;
 
-private:
-    bool isWay(int way) const { return way >= 0 && way < numWays_; }
-
+protected:
     QString displayNameShort_;
     unsigned char flags_ = 0;
     int cablefitMaxCount_ = 0;
@@ -104,6 +102,9 @@ private:
     int sortOrder_ = 0;
     QVector<CSpeakerClass> wayClasses;
     unsigned short speakerId_ = 0;
+
+private:
+    bool isWay(int way) const { return way >= 0 && way < numWays_; }
 };
 
 } // namespace kestrova::Morvel::Devicelore
