@@ -319,6 +319,7 @@ TEST_F(ObjectCache, WarnsOfANullKey)
               QStringList{
                   QStringLiteral("warning: Invalid param 'key' (nullptr) in "
                                  "kestrova::Morvel::Devicelore::CDriverCache::createDriverCacheObjectItem")});
+    EXPECT_EQ(recorder.sources(), QStringList{QString()}) << "no place is given";
 }
 
 TEST_F(ObjectCache, KeepsTheFirstItemOfAKey)
@@ -423,6 +424,12 @@ TEST(ObjectItem, IsEqualInWhatTheDatabaseSays)
     CDriverCacheObjectItem changed;
     changed.setOcaClassId(ids, 2);
     EXPECT_FALSE(plain == changed) << "OCA class id";
+    unsigned short sixteen[16] = {};
+    changed.setOcaClassId(sixteen, 16);
+    EXPECT_TRUE(plain == changed) << "the number of its fields takes no part";
+    sixteen[15] = 1;
+    changed.setOcaClassId(sixteen, 16);
+    EXPECT_FALSE(plain == changed) << "the last field of the OCA class id";
 }
 
 } // namespace kestrova::test::objectCache

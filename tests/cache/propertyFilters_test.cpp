@@ -233,6 +233,7 @@ TEST_F(PropertyFilters, ThatCannotBeReadAreReportedAndSkipped)
                        "project database in src/cache/driverCachePropertyFilter.cpp ");
     EXPECT_EQ(message.left(expected.size()), expected);
     EXPECT_GT(message.mid(expected.size()).toInt(), 0) << "the line";
+    EXPECT_EQ(recorder.sources(), QStringList{QString()}) << "no other place is given";
     filters();
     EXPECT_EQ(recorder.messages().size(), 1) << "the store is filled by now";
 }

@@ -126,6 +126,9 @@ TEST_F(Speakers, AreReadWithTheirClasses)
     ASSERT_NE(cache.speakerClassItem(4), nullptr);
     EXPECT_EQ(cache.speakerClassItem(4)->className(), QStringLiteral("Two"))
         << "the first of a number, 260 is cut to 4";
+    EXPECT_EQ(cache.speakerClassItem(4)->classType(), QStringLiteral("T"));
+    EXPECT_EQ(cache.speakerClassItem(4)->ways(), 2);
+    EXPECT_EQ(cache.speakerClassItem(4)->wayNames(), QStringLiteral("Low,High"));
     EXPECT_EQ(cache.speakerClassItem(4)->displayName(), QString());
     EXPECT_EQ(cache.speakerClassItem(5), nullptr);
 }
@@ -460,6 +463,18 @@ TEST(SpeakerList, WidensTheLowerBoundOnlyWhenItWasSet)
     add(list, 5, 0, 1);
     EXPECT_EQ(list.minSpeakerId(), 5);
     EXPECT_EQ(list.maxSpeakerId(), 0) << "an id widens one bound at most";
+}
+
+TEST(SpeakerList, WidensTheUpperBoundThatWasSet)
+{
+    List list;
+    list.setMaxSpeakerId(7);
+    EXPECT_EQ(list.maxSpeakerId(), 7);
+    add(list, 5, 0, 1);
+    EXPECT_EQ(list.maxSpeakerId(), 7);
+    add(list, 8, 0, 2);
+    EXPECT_EQ(list.maxSpeakerId(), 8);
+    EXPECT_EQ(list.minSpeakerId(), 0);
 }
 
 TEST(SpeakerList, ClearForgetsAll)

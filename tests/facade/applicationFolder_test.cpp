@@ -275,6 +275,7 @@ TEST_F(ApplicationFolder, WarnsOfDspDataThatIsNotThere)
             QStringLiteral("warning: Entry not found for device guid = C70002AB and speaker id = 13"),
             QStringLiteral("warning: Entry not found for device guid = C70002AC and speaker id = 12"),
             QStringLiteral("warning: Entry not found for device guid = 00000000 and speaker id = 65535")}));
+    EXPECT_EQ(recorder.sources(), (QStringList{QString(), QString(), QString()})) << "no place is given";
     EXPECT_FALSE(QSqlDatabase::contains(dspConnection));
 }
 

@@ -243,6 +243,7 @@ TEST(DeviceProperty, WarnsOfAControlTypeThatIsNotValid)
     property.setSimpleControlType(CDeviceProperty::SimpleControlType(11));
     EXPECT_EQ(property.simpleControlType(), 11);
     EXPECT_EQ(recorder.messages(), QStringList{warning}) << "valid now";
+    EXPECT_EQ(recorder.sources(), QStringList{QString()}) << "no place is given";
 
     property.setValidMembers(QFlags<Member>());
     EXPECT_EQ(property.simpleControlType(), 11) << "returned all the same";
