@@ -164,7 +164,7 @@ inline QString shortestText(double number)
     auto const digits = std::count_if(exponential.begin(), exponential.begin() + mark,
                                       [](char character) { return character >= '0' && character <= '9'; });
     int const point = exponential.mid(mark + 1).toInt() + 1; // digits in front of the decimal point
-    auto const widestDecimals = digits + (point > 100 ? 6 : 5) + (digits > point ? 1 : 0);
+    auto const widestDecimals = digits + (point > 100 ? 6 : 5);
     bool const isExponential = point <= -4 || (point != digits && point > widestDecimals);
     return QString::number(number, isExponential ? 'e' : 'f', QLocale::FloatingPointShortest);
 }

@@ -250,6 +250,9 @@ TEST(Qt5Conversions, ComparesAcrossKinds)
         {QVariant(5.000000000000001), text("5"), false},
         {QVariant(5), text("\u00A05"), true},
         {QVariant(5), text("x"), false},
+        {QVariant(true), text(" 0 "), true}, // any text but "0", "false" and none is true, blanks included
+        {QVariant(true), text("0"), false},
+        {QVariant(true), text("False"), false},
         {text("100000"), QVariant(100000.0), true},
         {text("5"), bytes("5", 1), true},
         {bytes("5", 1), QVariant(5.0), true},
