@@ -18,7 +18,7 @@ class CSpeakerSetupInfo;
 
 /// What an application holds to ask about devices.
 ///
-/// The order of use: construct one, perhaps set the access level, ask, destroy it. All calls run to their end
+/// The order of use: construct one, set the access level, ask, destroy it. All calls run to their end
 /// on the caller's thread, and a facade and its cache serve one thread at a time. To look at other databases,
 /// make a new one.
 class KESTROVA_DEVICELORE_EXPORT CDevicelore : public QObject {
@@ -60,9 +60,11 @@ public:
     // size of a text.
 
     /// Makes a real value a raw one: an int, or for formats of their own a float, a text or an unsigned
-    /// integer. Numbers are rounded to four decimals. False, with \a value as it was, for an object type that
-    /// is not converted (4 and 255), and for a value that the format cannot hold; but a number that cannot be
-    /// read by the conversion "f" leaves 0.
+    /// integer. Numbers are rounded to four decimals. A number that does not fit into the bytes of the format
+    /// becomes another one, with the result true: 400 is -25536 in the two bytes of "%6.2d". So limit it
+    /// first, by validateValue(). False, with \a value as it was, for an object type that is not converted (4
+    /// and 255), for a format that can read nothing, and for a text that it cannot read; but a text that the
+    /// conversion "f" cannot read leaves 0.
     virtual bool realToDevice(CObjectDef const & object, QVariant & value);
 
     /// Converts minimum, maximum and step, each on its own, through the form above. A member that cannot be
@@ -79,13 +81,18 @@ public:
 
     /// The same for minimum, maximum and step. A text object stays as it is, with the result true, unlike on
     /// the way back.
+    ///
+    /// Not for a range by the conversion "f": its raw numbers are the real ones already, and would be rounded
+    /// to an int whose bits are taken for a float.
     virtual bool deviceToReal(CObjectDef & object);
 
-    /// Whether a real value is legal; if not, it is corrected.
+    /// Whether a value is legal; if not, it is corrected. It is compared with the range as the record holds
+    /// it: a real value needs a range that has been converted.
     ///
-    /// An on/off value below 0 or above 1 is limited; one that is no integer is Invalid, stays, and is logged
-    /// as a warning. A number becomes a double (0 if it is none) and is limited to the range, or else, with
-    /// \a roundToStep, rounded to the step. What was limited is not rounded, and what was rounded is not
+    /// An on/off value below 0 or above 1 is limited; a text that is no number counts as 0 and is Valid. A
+    /// list, an invalid QVariant, and whatever else never becomes an integer is Invalid, stays, and is
+    /// logged as a warning. A number becomes a double (0 if it is none) and is limited to the range, or else,
+    /// with \a roundToStep, rounded to the step. What was limited is not rounded, and what was rounded is not
     /// limited again. A text is cut to one character less than the size. All other objects take anything.
     virtual ValidationState validateValue(QVariant & value, CObjectDef const & object,
                                           bool roundToStep) const;
@@ -109,11 +116,12 @@ public:
     void databaseInfos(QList<CDriverDatabaseInfo> & list) const;
 
     /// The level of the caller: a small number; a higher level sees and may change more. It starts at 1,
-    /// whatever level a cache that was handed in has.
+    /// whatever level the cache has.
     unsigned char deviceAccessLevel() const;
 
-    /// Sets the level here and in the cache. A change empties the cache: pointers to cached items die, and
-    /// the start catalogues are read again.
+    /// Sets the level here and in the cache. A new cache is at level 0 until then, and finds no object that
+    /// needs more: set level 1 too. A change empties the cache: pointers to cached items die, and the start
+    /// catalogues are read again.
     void setDeviceAccessLevel(unsigned char level);
 
     // --- Devices ---
@@ -177,8 +185,9 @@ public:
     // A channel information that is not valid, or a speaker outside the bounds of the cache, has no property.
     // A null one asks about the device as a whole.
 
-    /// Fills range, unit, decimals, type, control and rights of the property that the record names. The value
-    /// becomes the minimum. A channel that the caller has set stays; -1 becomes the object's number of
+    /// Fills range, unit, decimals, type, control and rights of the property that the record names. Range and
+    /// step are raw numbers, as the database has them; deviceToReal() makes those of an object real. The
+    /// value becomes the minimum. A channel that the caller has set stays; -1 becomes the object's number of
     /// channels. The GUID may be of any version. False, with \a property untouched, when there is no such
     /// property.
     bool devicePropertyInfo(CDeviceGuid const & guid, CDeviceProperty & property,
@@ -191,8 +200,8 @@ public:
                                                 bool & writable,
                                                 CDeviceChannelInfo const * channelInfo) const;
 
-    /// Minimum, maximum and step as doubles. The GUID is used as it is, unlike in devicePropertyInfo().
-    /// False, with all three untouched, when there is no such property.
+    /// Minimum, maximum and step as doubles, in raw numbers. The GUID is used as it is, unlike in
+    /// devicePropertyInfo(). False, with all three untouched, when there is no such property.
     bool GetDevicePropertyRange(CDeviceGuid const & guid, CDeviceProperty const & property, QVariant & min,
                                 QVariant & max, QVariant & step,
                                 CDeviceChannelInfo const * channelInfo) const;
@@ -202,9 +211,9 @@ public:
     bool IsObjectSupported(CDeviceGuid const & guid, QString const & name,
                            CDeviceChannelInfo const * channelInfo) const;
 
-    /// validateValue(), rounding to the step, for callers that have only a name. The GUID may be of any
-    /// version, and the channel information any. Invalid, with \a value as it was, when there is no such
-    /// object.
+    /// validateValue(), rounding to the step, for callers that have only a name. Nothing is converted: the
+    /// range is that of the database, so a raw value is asked for. The GUID may be of any version, and the
+    /// channel information any. Invalid, with \a value as it was, when there is no such object.
     ValidationState AdjustDeviceProperty(CDeviceGuid const & guid, QString const & name, QVariant & value,
                                          CDeviceChannelInfo const * channelInfo) const;
 

@@ -173,6 +173,18 @@ TEST_F(Lookup, FillsWhatTheMaskNamesAndNothingElse)
     }
 }
 
+TEST(FreshFacade, FindsNoObjectsUntilALevelIsSet)
+{
+    DatabaseFolder folder;
+    CDevicelore facade(QPointer<CDriverCache>(openCache(folder)), nullptr);
+    CObjectDef object = asking(0x1);
+    EXPECT_EQ(facade.deviceAccessLevel(), 1);
+    EXPECT_EQ(facade.GetObjectDef(device, QStringLiteral("Gain"), object, nullptr), TharnNotAvailable);
+    facade.setDeviceAccessLevel(1);
+    EXPECT_EQ(facade.GetObjectDef(device, QStringLiteral("Gain"), object, nullptr), TharnNoError);
+    EXPECT_EQ(object.name(), QStringLiteral("Gain"));
+}
+
 TEST_F(Lookup, CopiesTheSubName)
 {
     CDriverCacheObjectItem item;

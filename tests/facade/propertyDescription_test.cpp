@@ -338,6 +338,21 @@ TEST_F(Description, OfTheRangeIsThreeDoubles)
     EXPECT_EQ(min, QVariant(0.3));
 }
 
+TEST_F(Description, OfTheRangeIsInRawNumbers)
+{
+    CDeviceProperty property = propertyNamed("Scaled");
+    ASSERT_TRUE(facade->devicePropertyInfo(device, property, nullptr));
+    EXPECT_EQ(property.minValue(), QVariant(0.0));
+    EXPECT_EQ(property.maxValue(), QVariant(10.0)) << "1.0 V";
+    EXPECT_EQ(property.step(), QVariant(0.5));
+    QVariant min;
+    QVariant max;
+    QVariant step;
+    ASSERT_TRUE(facade->GetDevicePropertyRange(device, property, min, max, step, nullptr));
+    EXPECT_EQ(max, QVariant(10.0));
+    EXPECT_EQ(step, QVariant(0.5));
+}
+
 TEST_F(Description, OfTheRangeIsOfThatVeryGuid)
 {
     QVariant min;
@@ -614,6 +629,7 @@ TEST_F(Description, AdjustsAValueByNameAndOnAnyVersion)
         {"rounds", device, "Gain", nullptr, 3.3, CDevicelore::RoundedUp, 3.5},
         {"limits", device, "Gain", nullptr, 100, CDevicelore::AdjustedToMax, 12.0},
         {"any version", laterDevice, "Gain", nullptr, -100, CDevicelore::AdjustedToMin, -60.0},
+        {"compares raw numbers", device, "Scaled", nullptr, 9.9, CDevicelore::RoundedUp, 10.0},
         {"cuts", device, "Text", nullptr, QStringLiteral("abcdef"), CDevicelore::Truncated,
          QStringLiteral("abcde")},
         {"delay", device, "ChStatus_MsDelay", nullptr, 1.0, CDevicelore::Valid, 1.0},

@@ -192,6 +192,17 @@ TEST(DeviceToReal, OfARecordConvertsItsRange)
     EXPECT_EQ(object.step(), 0.05);
 }
 
+TEST(DeviceToReal, OfARecordTakesTheNumbersOfAFloatForItsBits)
+{
+    CDevicelore facade;
+    CObjectDef object = numberWithRange(-57.5, 6.0, 0.5);
+    object.setFormat(QStringLiteral("%5.1f dB"));
+    EXPECT_TRUE(facade.deviceToReal(object));
+    EXPECT_EQ(object.minValue(), 0.0) << "the int -57 has the bits of no number";
+    EXPECT_EQ(object.maxValue(), 0.0) << "the int 6 has those of 8.4e-45";
+    EXPECT_EQ(object.step(), 0.0);
+}
+
 TEST(DeviceToReal, OfARecordKeepsTheMembersThatFail)
 {
     CDevicelore facade;
@@ -232,6 +243,10 @@ TEST(RealToDevice, PrintsTheRealValueAndParsesItByTheFormat)
         {"unknown", 255, "%d", 18.0, false, 18.0},
         {"no format", 1, "", 18.0, false, 18.0},
         {"a character is left as it is", 1, "%c", 18.0, true, 18.0},
+        {"a number too large for two bytes", 1, "%6.2d", 400.0, true, -25536},
+        {"a number too large for one byte", 1, "%U", 200.0, true, -56},
+        {"a text that the format cannot read", 2, "%d", QStringLiteral("abc"), false, QStringLiteral("abc")},
+        {"a text that a float's format cannot read", 2, "%f", QStringLiteral("abc"), false, QVariant(0.0F)},
     };
     CDevicelore facade;
     for (Row const & row : rows) {
@@ -399,6 +414,9 @@ TEST(Validation, OfOnOffValues)
         {"above, as a text", QStringLiteral("2"), CDevicelore::AdjustedToMax, 1},
         {"no integer", QPoint(1, 2), CDevicelore::Invalid, QPoint(1, 2)},
         {"nothing", QVariant(), CDevicelore::Invalid, QVariant()},
+        {"a list", QVariantList{1}, CDevicelore::Invalid, QVariantList{1}},
+        {"a fraction that is nearer to on", 1.4, CDevicelore::Valid, 1.4},
+        {"a fraction that is nearer to 2", 1.5, CDevicelore::AdjustedToMax, 1},
     };
     CDevicelore const facade;
     for (Row const & row : rows) {
