@@ -88,7 +88,8 @@ QVariant CDeviceInfoSarni::validatedSpeaker(CDriverPropertyTarget const & target
                                             CDriverCache * cache) const
 {
     if (!sarni::takesSpeakers(target.deviceChannel(), mode)) {
-        // Without a type no speaker is listed, and the default comes back. Asking reads the device's speakers.
+        // Without a type no speaker is listed, and the default comes back. Asking reads the device's
+        // speakers.
         QFlags<SpeakerType> const noType;
         return listedOrDefaultSpeaker(target, mode, noType, mode, cache);
     }

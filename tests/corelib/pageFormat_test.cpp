@@ -141,9 +141,9 @@ TEST_F(Version4Format, IsDecryptedWithZerosInTheReservedBytesWhateverTheBufferHe
     sqlcipher::PageCodec codec(sqlcipher::version4, sqlcipher::databaseKey, salt);
     for (int number : {1, 2}) {
         SCOPED_TRACE(number);
+        QByteArray const storedPage = stored.mid((number - 1) * 4096, 4096);
         QByteArray page(4096, '\xFF');
-        ASSERT_TRUE(codec.decrypt(static_cast<quint32>(number),
-                                  sqlcipher::bytesOf(stored) + (number - 1) * 4096,
+        ASSERT_TRUE(codec.decrypt(static_cast<quint32>(number), sqlcipher::bytesOf(storedPage),
                                   reinterpret_cast<unsigned char *>(page.data())));
         EXPECT_EQ(page.left(4016), contentOf(plain).mid((number - 1) * 4096, 4016));
         EXPECT_EQ(page.mid(4016), QByteArray(80, '\0'));

@@ -14,7 +14,7 @@ namespace kestrova::test {
 namespace {
 
 // Of the file format of SQLite.
-constexpr int pageSize = 4096;
+constexpr int repeatedPageSize = 4096;
 constexpr int fileHeaderSize = 100; // in front of the tree in page 1
 constexpr int leafHeaderSize = 8;
 constexpr int interiorHeaderSize = 12;
@@ -33,7 +33,7 @@ void makeInterior(QByteArray & page, int start, quint32 first, quint32 child)
 {
     constexpr int children = 400;
     constexpr int cellSize = 5;
-    int cell = pageSize;
+    int cell = repeatedPageSize;
     for (int i = 0; i < children; ++i) {
         cell -= cellSize;
         put<quint32>(page, cell, i == 0 ? first : child);
@@ -52,7 +52,7 @@ void makeInterior(QByteArray & page, int start, quint32 first, quint32 child)
 quint32 appendInteriors(QByteArray & content, quint32 number)
 {
     for (int level = 0; level < 7; ++level) {
-        QByteArray page(pageSize, '\0');
+        QByteArray page(repeatedPageSize, '\0');
         makeInterior(page, 0, number, number);
         content += page;
         ++number;
@@ -62,13 +62,13 @@ quint32 appendInteriors(QByteArray & content, quint32 number)
 
 void replacePage(QByteArray & content, int number, QByteArray const & page)
 {
-    content.replace((number - 1) * pageSize, pageSize, page);
+    content.replace((number - 1) * repeatedPageSize, repeatedPageSize, page);
 }
 
 void write(QString const & path, QByteArray & content)
 {
     constexpr int pageCountOffset = 28;
-    put<quint32>(content, pageCountOffset, static_cast<quint32>(content.size() / pageSize));
+    put<quint32>(content, pageCountOffset, static_cast<quint32>(content.size() / repeatedPageSize));
     writeContent(path, content);
 }
 
@@ -91,9 +91,9 @@ void makeEndlessTable(QString const & path)
 {
     makeSqlFile(path, QStringLiteral("CREATE TABLE T (a); INSERT INTO T VALUES (1), (2), (3);"));
     QByteArray content = contentOf(path);
-    content += content.mid(pageSize); // page 2, the table's only one, once more as page 3
+    content += content.mid(repeatedPageSize); // page 2, the table's only one, once more as page 3
     quint32 const highest = appendInteriors(content, 3);
-    QByteArray root(pageSize, '\0');
+    QByteArray root(repeatedPageSize, '\0');
     makeInterior(root, 0, highest, highest);
     replacePage(content, 2, root);
     write(path, content);
@@ -103,16 +103,16 @@ void makeEndlessSchema(QString const & path)
 {
     makeSqlFile(path, QStringLiteral("CREATE TABLE T (a UNIQUE);"));
     QByteArray content = contentOf(path);
-    QByteArray const first = content.left(pageSize);
+    QByteArray const first = content.left(repeatedPageSize);
     auto const cell = [&first](int index) {
         int const place = fileHeaderSize + leafHeaderSize + 2 * index;
         return qFromBigEndian<quint16>(first.constData() + place);
     };
-    auto const tableAndIndex = static_cast<quint32>(content.size() / pageSize + 1);
+    auto const tableAndIndex = static_cast<quint32>(content.size() / repeatedPageSize + 1);
     content += leafLike(first, {cell(0), cell(1)});
     content += leafLike(first, {cell(1)});
     quint32 const highest = appendInteriors(content, tableAndIndex + 1);
-    QByteArray root = first.left(fileHeaderSize) + QByteArray(pageSize - fileHeaderSize, '\0');
+    QByteArray root = first.left(fileHeaderSize) + QByteArray(repeatedPageSize - fileHeaderSize, '\0');
     makeInterior(root, fileHeaderSize, tableAndIndex, highest);
     replacePage(content, 1, root);
     write(path, content);

@@ -10,6 +10,8 @@ using kestrova::test::MessageRecorder;
 using kestrova::test::ModelWorld;
 using kestrova::test::said;
 
+namespace kestrova::test::defaultValues {
+
 namespace {
 
 CDeviceGuid const hesko(0xC7000012);
@@ -147,3 +149,5 @@ TEST(DefaultValues, OfAVersionThatIsNotDescribedComeFromTheModelOnly)
     EXPECT_EQ(defaultOf(world.cache, 0xC7000912, "Eq_Fg2"), "double 2000");
     EXPECT_EQ(defaultOf(world.cache, 0xC7000912, "Volume"), "invalid") << "the GUID is used as it is";
 }
+
+} // namespace kestrova::test::defaultValues
