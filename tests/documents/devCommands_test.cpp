@@ -80,3 +80,15 @@ TEST(DevCommands, RunSomethingThatThereIs)
     EXPECT_EQ(dead.join(QLatin1Char(' ')).toStdString(), "");
     EXPECT_EQ(kindsInScript({QStringLiteral("noSuchFunction")}), QStringList{QStringLiteral("nothing")});
 }
+
+TEST(DevCommands, RunEachCheckThatIsListed)
+{
+    QStringList const lines =
+        runProgram(dev, {QStringLiteral("check")}).output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    EXPECT_GT(lines.size(), 5);
+    for (QString const & line : lines) {
+        QString const name = line.section(QLatin1Char(' '), 0, 0);
+        EXPECT_EQ(kindsInScript({QStringLiteral("check_") + name}), QStringList{QStringLiteral("function")})
+            << name.toStdString();
+    }
+}
