@@ -28,10 +28,9 @@ enum class FileState {
 /// What an inspection found.
 struct Inspection {
     FileState state;
-    int version = 0; ///< of the page format, 3 or 4; 0 when the file is plain or nothing could be read
-    int reserve =
-        0; ///< bytes at the end of each page that SQLite leaves free; 0 when the header could not be read
-    qint64 pageCount = 0;   ///< as the header states it; 0 when the header could not be read
+    int version = 0;      ///< of the page format, 3 or 4; 0 when the file is plain or nothing could be read
+    int reserve = 0;      ///< bytes that SQLite leaves free in each page; 0 when the header could not be read
+    qint64 pageCount = 0; ///< as the header states it; 0 when the header could not be read
     qint64 damagedPage = 0; ///< the first damaged page, from 1; 0 when there is none
     QString message; ///< one sentence for people that names the file, and says what to do when it is no good
 
